@@ -1,0 +1,60 @@
+# SPDX-License-Identifier: MIT
+# How a folder under tests/ declares its executables.
+
+include(GoogleTest)
+
+# Everything that `cmake --build` needs to run the tests that both compilers run: see BOTH_COMPILERS below.
+add_custom_target(vox_both_compilers)
+
+# vox_add_test(<name> SOURCES <file>... [LIBS <target>...] [SLOW] [BOTH_COMPILERS])
+#   An executable <name> of GoogleTest cases, each of them a test of its own under CTest, labelled with its folder's name.
+#   SLOW            all its cases carry the label `slow`, and so do the cases of any suite whose name ends in Slow:
+#                   `./dev test --quick` leaves them out.
+#   BOTH_COMPILERS  its cases run in the clang++ build as well (label `both-compilers`).
+#   Paths known to the code: VOX_SOURCE_DIR, VOX_DECKS_DIR (overruled at run time by the environment's VOX_DECKS),
+#   VOX_TEST_DIR (the folder of the test's CMakeLists.txt), and VOXBENCH_PROGRAM once the workbench is built.
+function(vox_add_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 test "SLOW;BOTH_COMPILERS" "" "SOURCES;LIBS")
+  if(test_UNPARSED_ARGUMENTS OR NOT test_SOURCES)
+    message(FATAL_ERROR "vox_add_test(${name}): give SOURCES, LIBS, SLOW or BOTH_COMPILERS; got ${test_UNPARSED_ARGUMENTS}")
+  endif()
+
+  add_executable(${name} ${test_SOURCES})
+  target_link_libraries(${name} PRIVATE ${test_LIBS} GTest::gmock GTest::gtest_main vox::warnings)
+  vox_give_test_paths(${name})
+
+  get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+  set(labels ${folder})
+  if(test_BOTH_COMPILERS)
+    list(APPEND labels both-compilers)
+    add_dependencies(vox_both_compilers ${name})
+  endif()
+
+  if(test_SLOW)
+    vox_discover_cases(${name} "*" ${labels} slow)
+  else()
+    vox_discover_cases(${name} "-*Slow.*" ${labels})
+    vox_discover_cases(${name} "*Slow.*" ${labels} slow)
+  endif()
+endfunction()
+
+# Compile definitions for an executable or a library of the tests that needs to find files.
+function(vox_give_test_paths target)
+  target_compile_definitions(
+    ${target} PRIVATE VOX_SOURCE_DIR="${PROJECT_SOURCE_DIR}" VOX_DECKS_DIR="${VOX_DECKS}"
+                      VOX_TEST_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
+  if(TARGET voxbench)
+    target_compile_definitions(${target} PRIVATE VOXBENCH_PROGRAM="$<TARGET_FILE:voxbench>")
+    add_dependencies(${target} voxbench)
+  endif()
+endfunction()
+
+# The cases of an executable that match a GoogleTest filter, with these labels.
+function(vox_discover_cases name filter)
+  list(TRANSFORM ARGN PREPEND "LABELS;" OUTPUT_VARIABLE labels) # one LABELS each: a list in one would be torn apart
+  gtest_discover_tests(
+    ${name}
+    TEST_FILTER ${filter}
+    DISCOVERY_TIMEOUT 120
+    PROPERTIES ${labels} ENVIRONMENT "VOX_DECKS=${VOX_DECKS}")
+endfunction()
