@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "host/AnalysisCore/TraceLog.h"
+
+struct VOXTraceData
+{
+  std::string name;
+  std::string text;
+  bool active = false;
+  bool keepsEverything = false;
+  int level = 0;
+
+  int Put(const char* iText, const std::string& iEnd)
+  {
+    const std::string put = (iText != nullptr ? iText : "") + iEnd;
+    if (active || keepsEverything)
+      text += put;
+    return static_cast<int>(put.size());
+  }
+};
+
+VOXTrace Tra_SAMTraceExpli("SAMTraceExpli");
+VOXTrace Tra_SAMTraceExpDbg("SAMTraceExpDbg");
+VOXTrace Tra_SAMTraceDebug("SAMTraceDebug");
+
+VOXTrace::VOXTrace(const char* iName) : _Data(new VOXTraceData) { _Data->name = iName; }
+
+VOXTrace::~VOXTrace() { delete _Data; }
+
+int VOXTrace::IsActive() { return _Data->active ? 1 : 0; }
+
+int VOXTrace::TraPut(const char* iText) { return _Data->Put(iText, ""); }
+
+int VOXTrace::TraPutLN(const char* iText) { return _Data->Put(iText, "\n"); }
+
+int VOXTrace::TraPutLN(const char* iText, int iNumber) { return _Data->Put(iText, " " + std::to_string(iNumber) + "\n"); }
+
+void VOXTrace::SetOutputLevel(int iLevel) { _Data->level = iLevel; }
+
+void VOXTraceAccess::SetActive(VOXTrace& ioTrace, bool iActive) { ioTrace._Data->active = iActive; }
+
+std::string VOXTraceAccess::Text(const VOXTrace& iTrace) { return iTrace._Data->text; }
+
+void VOXTraceAccess::Clear(VOXTrace& ioTrace) { ioTrace._Data->text.clear(); }
+
+void VOXTraceAccess::KeepEverything(VOXTrace& ioTrace, bool iKeep) { ioTrace._Data->keepsEverything = iKeep; }
+
+int VOXTraceAccess::Level(const VOXTrace& iTrace) { return iTrace._Data->level; }

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AnalysisCore/VOXTrace.h"
+
+#include <string>
+
+//! The reference host's hand on the trace channels.
+class VOX_HOST_API VOXTraceAccess
+{
+public:
+  //! Switches a channel; all are inactive at the start. An active channel keeps what is put.
+  static void SetActive(VOXTrace& ioTrace, bool iActive);
+
+  //! What was put since the last Clear, lines ended by '\n'. What the channel is given while it is not active, too, is
+  //! kept when it was told to keep everything.
+  static std::string Text(const VOXTrace& iTrace);
+  static void Clear(VOXTrace& ioTrace);
+
+  //! Keeps what is put even while the channel is not active.
+  static void KeepEverything(VOXTrace& ioTrace, bool iKeep);
+
+  //! Output level in force.
+  static int Level(const VOXTrace& iTrace);
+};
