@@ -66,8 +66,14 @@ class CheckDoors(unittest.TestCase):
         for include, owner in (("Contract.h", "contracts"), ("HostPart.h", "host"), ("build/Builder.h", "voxbench")):
             self.assert_refused("voxbench/readers/inp/A.cpp", f'#include "{include}"\n', owner)
 
-    def test_nobody_includes_by_climbing(self):
-        self.assert_refused("host/AnalysisCore/A.cpp", '#include "../../VOXAnalysisResources/include/Adaptor.h"\n', "climbs")
+    def test_an_include_from_the_root_of_the_repository_is_followed(self):
+        self.assertEqual([], offences_of({"host/A.cpp": '#include "host/AnalysisCore/HostPart.h"\n'}))
+        self.assert_refused("host/A.cpp", '#include "voxbench/build/Builder.h"\n', "voxbench")
+
+    def test_climbing_is_for_the_own_room(self):
+        self.assertEqual([], offences_of({"voxbench/readers/inp/A.cpp": '#include "../Records.h"\n'}))
+        climbing = '#include "../../VOXAnalysisResources/include/Adaptor.h"\n'
+        self.assert_refused("host/AnalysisCore/A.cpp", climbing, "VOXAnalysisResources")
 
     def test_files_stay_short(self):
         self.assertEqual([], offences_of({"host/A.cpp": "\n" * (MAX_LINES - 1)}))
