@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: MIT
+#include "Handlers.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <functional>
+
+namespace voxbench::inp
+{
+
+namespace
+{
+using Members = Column<std::int32_t>;
+
+// The ids of the nodes or of the elements, and how to find them.
+struct Population
+{
+  const Members& ids;
+  std::function<std::int64_t(std::int32_t)> find;
+  const char* what;
+};
+
+bool NoHoles(const Members& iIds)
+{
+  return !iIds.empty() && std::int64_t{iIds.back()} - iIds[0] + 1 == static_cast<std::int64_t>(iIds.size());
+}
+
+// Makes a list of ids a set: ascending, unique, existing ids only.
+void Settle(Members& ioIds, const Population& iPopulation)
+{
+  const bool ascending = std::adjacent_find(ioIds.begin(), ioIds.end(), std::greater_equal<>()) == ioIds.end();
+  if (!ascending && ioIds.size() > iPopulation.ids.size() / 64)
+  {
+    std::vector<bool> present(iPopulation.ids.size());
+    for (const std::int32_t id : ioIds)
+      if (const std::int64_t row = iPopulation.find(id); row >= 0)
+        present[static_cast<std::size_t>(row)] = true;
+    ioIds.Truncate(0);
+    for (std::size_t row = 0; row < present.size(); ++row)
+      if (present[row])
+        ioIds.push_back(iPopulation.ids[row]);
+    ioIds.ReleaseSlack();
+    return;
+  }
+  if (!ascending)
+  {
+    std::sort(ioIds.begin(), ioIds.end());
+    ioIds.Truncate(static_cast<std::size_t>(std::unique(ioIds.begin(), ioIds.end()) - ioIds.begin()));
+  }
+  const bool allExist = ioIds.empty() || (NoHoles(iPopulation.ids) && ioIds[0] >= iPopulation.ids[0] &&
+                                          ioIds.back() <= iPopulation.ids.back());
+  if (!allExist)
+  {
+    const auto last =
+        std::remove_if(ioIds.begin(), ioIds.end(), [&](std::int32_t iId) { return iPopulation.find(iId) < 0; });
+    ioIds.Truncate(static_cast<std::size_t>(last - ioIds.begin()));
+  }
+  ioIds.ReleaseSlack();
+}
+
+// @return how many of the range's ids exist; they are added.
+std::int64_t AddRange(const GeneratedRange& iRange, const Population& iPopulation, Members& ioIds)
+{
+  const Members& ids = iPopulation.ids;
+  const std::size_t before = ioIds.size();
+  const auto from = std::lower_bound(ids.begin(), ids.end(), iRange.first);
+  for (auto at = from; at != ids.end() && *at <= iRange.last; ++at)
+    if ((std::int64_t{*at} - iRange.first) % iRange.increment == 0)
+      ioIds.push_back(*at);
+  return static_cast<std::int64_t>(ioIds.size() - before);
+}
+
+void ReportMissingOfRanges(Reading& ioReading, const SetBuilder& iSet, const Population& iPopulation)
+{
+  std::int64_t missing = 0;
+  Where where;
+  for (const GeneratedRange& range : iSet.ranges)
+  {
+    Members found;
+    const std::int64_t named = (std::int64_t{range.last} - range.first) / range.increment + 1;
+    const std::int64_t missingHere = named - AddRange(range, iPopulation, found);
+    if (missing == 0 && missingHere > 0)
+      where = range.where;
+    missing += missingHere;
+  }
+  if (missing > 0)
+    ioReading.Report(Severity::Warning, where,
+                     fmt::format("{} generated number{} of {} {} no {} and {} left out.", missing,
+                                 missing == 1 ? "" : "s", iSet.name, missing == 1 ? "is" : "are", iPopulation.what,
+                                 missing == 1 ? "is" : "are"));
+}
+
+bool AllExist(const Members& iIds, const Population& iPopulation)
+{
+  if (NoHoles(iPopulation.ids))
+  {
+    const auto [least, greatest] = std::minmax_element(iIds.begin(), iIds.end());
+    if (iIds.empty() || (*least >= iPopulation.ids[0] && *greatest <= iPopulation.ids.back()))
+      return true;
+  }
+  return std::all_of(iIds.begin(), iIds.end(), [&](std::int32_t iId) { return iPopulation.find(iId) >= 0; });
+}
+
+// One finding per card that lists ids which do not exist.
+void ReportMissing(Reading& ioReading, const SetBuilder& iSet, const Population& iPopulation)
+{
+  if (AllExist(iSet.ids, iPopulation))
+    return;
+  for (std::size_t piece = 0; piece < iSet.pieces.size(); ++piece)
+  {
+    const std::size_t last = piece + 1 < iSet.pieces.size() ? iSet.pieces[piece + 1].firstId : iSet.ids.size();
+    std::int64_t count = 0;
+    std::int32_t example = 0;
+    for (std::size_t at = iSet.pieces[piece].firstId; at < last; ++at)
+      if (iPopulation.find(iSet.ids[at]) < 0 && count++ == 0)
+        example = iSet.ids[at];
+    if (count > 0)
+      ioReading.Report(Severity::Error, iSet.pieces[piece].where,
+                       fmt::format("{} number{} of {} {} no {}, {} first; {} left out.", count, count == 1 ? "" : "s",
+                                   iSet.name, count == 1 ? "is" : "are", iPopulation.what, example,
+                                   count == 1 ? "it is" : "they are"));
+  }
+}
+
+// The sets that a set names, directly and through others, itself first; each once.
+std::vector<std::size_t> Reach(SetBuilders& ioSets, std::size_t iStart, bool& oCircle)
+{
+  std::vector<std::size_t> reached = {iStart};
+  std::vector<bool> seen(ioSets.All().size());
+  seen[iStart] = true;
+  oCircle = false;
+  for (std::size_t at = 0; at < reached.size(); ++at)
+    for (const NamedReference& reference : ioSets.All()[reached[at]].references)
+    {
+      const std::int64_t index = ioSets.Find(reference.name);
+      oCircle = oCircle || index == static_cast<std::int64_t>(iStart);
+      if (index < 0 || seen[static_cast<std::size_t>(index)])
+        continue;
+      seen[static_cast<std::size_t>(index)] = true;
+      reached.push_back(static_cast<std::size_t>(index));
+    }
+  return reached;
+}
+
+void ReportReferences(Reading& ioReading, SetBuilders& ioSets, const SetBuilder& iSet, const char* iWhat)
+{
+  for (const NamedReference& reference : iSet.references)
+    if (ioSets.Find(reference.name) < 0)
+      ioReading.Report(Severity::Error, reference.where,
+                       fmt::format("{} names {}, which is neither a number nor a {} set; it is left out.", iSet.name,
+                                   reference.name, iWhat));
+}
+
+// Nodes of element sets: known once the element sets are settled.
+void AddNodesOfElements(Reading& ioReading, SetBuilder& ioSet)
+{
+  const ElementTable& elements = ioReading.model.elements;
+  for (const NamedReference& reference : ioSet.nodesOfElements)
+  {
+    const std::int64_t index = ioReading.elementSets.Find(reference.name);
+    if (index < 0)
+      ioReading.Report(Severity::Error, reference.where,
+                       fmt::format("{} takes the nodes of {}, which is no element set.", ioSet.name, reference.name));
+    else
+      for (const std::int32_t id : ioReading.model.elementSets[static_cast<std::size_t>(index)].members)
+        for (const std::int32_t node : elements.NodesOf(static_cast<std::size_t>(elements.Find(id))))
+          ioSet.ids.push_back(node);
+  }
+}
+
+void SettleSets(Reading& ioReading, SetBuilders& ioSets, const Population& iPopulation, std::vector<NamedSet>& oSets)
+{
+  std::vector<SetBuilder>& all = ioSets.All();
+  oSets.resize(all.size());
+  for (std::size_t at = 0; at < all.size(); ++at)
+  {
+    oSets[at].name = all[at].name;
+    oSets[at].where = all[at].where;
+    ReportMissing(ioReading, all[at], iPopulation);
+    ReportMissingOfRanges(ioReading, all[at], iPopulation);
+    ReportReferences(ioReading, ioSets, all[at], iPopulation.what);
+    AddNodesOfElements(ioReading, all[at]);
+  }
+  for (std::size_t at = 0; at < all.size(); ++at) // the sets of sets first, as long as all lists stand
+  {
+    if (all[at].references.empty())
+      continue;
+    bool circle = false;
+    for (const std::size_t other : Reach(ioSets, at, circle))
+    {
+      oSets[at].members.Append(all[other].ids.data(), all[other].ids.size());
+      for (const GeneratedRange& range : all[other].ranges)
+        AddRange(range, iPopulation, oSets[at].members);
+    }
+    if (circle)
+      ioReading.Report(
+          Severity::Warning, all[at].where,
+          fmt::format("{} contains itself; its members are those of all sets in the circle.", all[at].name));
+    Settle(oSets[at].members, iPopulation);
+  }
+  for (std::size_t at = 0; at < all.size(); ++at)
+  {
+    if (!all[at].references.empty())
+      continue;
+    oSets[at].members.Swap(all[at].ids);
+    for (const GeneratedRange& range : all[at].ranges)
+      AddRange(range, iPopulation, oSets[at].members);
+    Settle(oSets[at].members, iPopulation);
+  }
+}
+} // namespace
+
+void FinishSets(Reading& ioReading)
+{
+  NeutralModel& model = ioReading.model;
+  const Population nodes{model.nodes.ids, [&](std::int32_t iId) { return model.nodes.Find(iId); }, "node"};
+  const Population elements{model.elements.ids, [&](std::int32_t iId) { return model.elements.Find(iId); }, "element"};
+  ioReading.cardInForce = "*ELSET";
+  SettleSets(ioReading, ioReading.elementSets, elements, model.elementSets);
+  ioReading.cardInForce = "*NSET";
+  SettleSets(ioReading, ioReading.nodeSets, nodes, model.nodeSets);
+  FinishSurfaces(ioReading);
+}
+
+} // namespace voxbench::inp
