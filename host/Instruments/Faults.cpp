@@ -11,6 +11,7 @@ struct Plan
   std::string operation; // empty: every operation counts
   int failAt = 0;        // 0: none fails
   bool andLater = false;
+  bool active = false;
   int calls = 0;
   std::string lastFailed;
 };
@@ -21,6 +22,8 @@ Plan& CurrentPlan()
   return plan;
 }
 
+void (*g_listener)(const char*) = nullptr;
+
 } // namespace
 
 bool Faults::_Armed = false;
@@ -28,6 +31,7 @@ bool Faults::_Armed = false;
 void Faults::Count()
 {
   CurrentPlan() = Plan{};
+  CurrentPlan().active = true;
   _Armed = true;
 }
 
@@ -44,7 +48,17 @@ void Faults::FailOperation(const char* iOperation, int iCall, bool iAndLater)
   CurrentPlan().operation = iOperation;
 }
 
-void Faults::Disarm() { _Armed = false; }
+void Faults::Disarm()
+{
+  CurrentPlan().active = false;
+  _Armed = g_listener != nullptr;
+}
+
+void Faults::Listen(void (*iListener)(const char*))
+{
+  g_listener = iListener;
+  _Armed = iListener != nullptr || CurrentPlan().active;
+}
 
 int Faults::Calls() { return CurrentPlan().calls; }
 
@@ -52,7 +66,11 @@ std::string Faults::LastFailed() { return CurrentPlan().lastFailed; }
 
 bool Faults::Decide(const char* iOperation)
 {
+  if (g_listener != nullptr)
+    g_listener(iOperation);
   Plan& plan = CurrentPlan();
+  if (!plan.active)
+    return false;
   if (!plan.operation.empty() && plan.operation != iOperation)
     return false;
   ++plan.calls;

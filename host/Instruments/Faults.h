@@ -37,6 +37,10 @@ public:
   //! Name of the operation that was told to fail last; empty when none was.
   static std::string LastFailed();
 
+  //! Calls iListener with the name of every operation that passes its fault point, whether it is to fail or not, and
+  //! whether anything is armed or not; null for none.
+  static void Listen(void (*iListener)(const char* iOperation));
+
 private:
   static bool Decide(const char* iOperation);
   static bool _Armed;
