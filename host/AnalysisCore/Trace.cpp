@@ -32,7 +32,13 @@ int VOXTrace::TraPut(const char* iText) { return _Data->Put(iText, ""); }
 
 int VOXTrace::TraPutLN(const char* iText) { return _Data->Put(iText, "\n"); }
 
-int VOXTrace::TraPutLN(const char* iText, int iNumber) { return _Data->Put(iText, " " + std::to_string(iNumber) + "\n"); }
+int VOXTrace::TraPutLN(const char* iText, int iNumber)
+{
+  std::string end(1, ' ');
+  end += std::to_string(iNumber);
+  end += '\n';
+  return _Data->Put(iText, end);
+}
 
 void VOXTrace::SetOutputLevel(int iLevel) { _Data->level = iLevel; }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ComponentRuntime/VOXMetaClass.h"
 #include "ComponentRuntime/VOXTypeDictionary.h"
 
 namespace voxhost
