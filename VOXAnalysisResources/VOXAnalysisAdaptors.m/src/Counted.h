@@ -12,19 +12,32 @@ template <class Interface>
 class Counted
 {
 public:
+  Counted() noexcept : _Given(nullptr) {}
   explicit Counted(Interface* iGiven) noexcept : _Given(iGiven) {}
-  Counted(Counted&& ioOther) noexcept : _Given(ioOther._Given) { ioOther._Given = nullptr; }
+  Counted(Counted&& ioOther) noexcept : _Given(ioOther.HandOn()) {}
   ~Counted() { GiveBack(); }
   Counted(const Counted&) = delete;
   Counted& operator=(const Counted&) = delete;
-  Counted& operator=(Counted&&) = delete;
+  Counted& operator=(Counted&& ioOther)
+  {
+    GiveBack();
+    _Given = ioOther.HandOn();
+    return *this;
+  }
 
   void GiveBack()
   {
-    Interface* const given = _Given;
-    _Given = nullptr;
+    Interface* const given = HandOn();
     if (given != nullptr)
       given->Release();
+  }
+
+  //! The interface, with its reference, for somebody else to release.
+  Interface* HandOn() noexcept
+  {
+    Interface* const given = _Given;
+    _Given = nullptr;
+    return given;
   }
 
   //! The interface, borrowed; null when nothing was given.
