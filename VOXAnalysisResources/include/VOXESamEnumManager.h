@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AnalysisInterfaces/VOXISamSelectionList.h"
+#include "ComponentRuntime/VOXMetaClass.h"
+#include "VOXAnalysisResources.h"
+
+//! Selection list of a basic component whose value is a knowledge parameter: offers the entries of an enumeration, and
+//! reconciles the sub-components with a new selection. Carries the operations of VOXISamSelectionList and is reached
+//! through a tie; registered as an extension of the late type "SAMListManager".
+//!
+//! No operation reports an error. E_FAIL: the component is no basic component, or gives no value.
+class VOX_ANALYSIS_API VOXESamEnumManager : public VOXBaseUnknown
+{
+public:
+  VOXESamEnumManager();
+  ~VOXESamEnumManager() override;
+  VOXESamEnumManager(const VOXESamEnumManager&) = delete;
+  VOXESamEnumManager& operator=(const VOXESamEnumManager&) = delete;
+
+  //! The class's own description, registered at the first request. Borrowed.
+  static VOXMetaClass* MetaObject();
+  static const IID& ClassId();
+  static const char* ClassName();
+  VOXMetaClass* GetMetaObject() const override;
+  const char* IsA() const override;
+  int IsAKindOf(const char* iName) const override;
+
+  //! @return a new object, one reference for the caller; null when there is no memory.
+  static VOXBaseUnknown* CreateItself();
+
+  //! 1. How the value is chosen: from the list for an enumeration, else freely. @param oMode untouched on failure.
+  virtual HRESULT GetMode(VOXSamSelectionMode& oMode);
+
+  //! 2. The entries of the enumeration; none for a value of another type. @param oList emptied first, on failure too.
+  virtual HRESULT GetList(VOXListValVOXUnicodeString& oList);
+
+  //! 3. The selected entry. @param oValue untouched without parameter or value. @param oIndex preset to 0.
+  virtual HRESULT GetSelected(VOXUnicodeString& oValue, int& oIndex);
+
+  //! 4. Selects an entry: writes the parameter, asks operation 5 what the entry needs, removes the sub-components that
+  //! are not wanted any more and creates those that are missing. Nothing is done for the entry that is selected already,
+  //! except the first time.
+  virtual HRESULT SetSelected(int iIndex);
+
+  //! 5. The sub-components that an entry needs, at the same positions of three empty lists of which the sizes must agree
+  //! (asserted). A feature type overrides it. @return S_OK, nothing done.
+  virtual HRESULT GetResult(const VOXUnicodeString& iValue, VOXListValVOXUnicodeString& oFeatureType,
+                            VOXListValVOXUnicodeString& oSecond, VOXListValVOXBaseUnknown_var& oListOfVOXICkeType);
+
+private:
+  // Creates one sub-component per position of the lists.
+  void Instanciate(VOXListValVOXUnicodeString& iFeatureType, VOXListValVOXUnicodeString& iSecond,
+                   VOXListValVOXBaseUnknown_var& iListOfVOXICkeType);
+
+  // Does nothing; other people's compiled code knows it.
+  void GetStringValuesList(VOXListValVOXUnicodeString& ioList);
+
+  static VOXMetaClass* meta_object; // null until it is asked for
+
+  bool _FirstSelection; // true until the first selection that did its work
+};
