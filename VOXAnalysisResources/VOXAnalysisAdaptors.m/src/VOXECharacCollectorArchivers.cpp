@@ -63,6 +63,14 @@ struct Area
     const bool counted = nbPositions != nullptr && nbPositions[iType] != nullptr;
     return counted && Leaf(iType, iSlot) != nullptr ? nbPositions[iType][iSlot] : 0;
   }
+
+  // Whether the area has that place, and in the half of the slots that the variant flag selects.
+  bool Holds(int iType, int iSlot, int iPosition, bool iIsVariant) const
+  {
+    const int nbVersions = Slots(iType) / 2;
+    const int first = iIsVariant ? nbVersions : 0;
+    return iSlot >= first && iSlot < first + nbVersions && iPosition < Positions(iType, iSlot);
+  }
 };
 
 // Place of a definition within its physical type.
@@ -241,6 +249,7 @@ HRESULT VOXECharacCollector::LocateCollectorArchiver(int iPhysicalType, const VO
   if (FAILED(spFeature->GetAvailablePhysicalTypes(nbTypes, types, reserved)))
     return ReportAndFail(VOX_FAILED_CALL);
 
+  const Area area{_NbVersionSlots, _NbPositions, _Archivers};
   Place place;
   for (int t = 0; t < nbTypes && !place.IsFound(); ++t)
   {
@@ -248,10 +257,8 @@ HRESULT VOXECharacCollector::LocateCollectorArchiver(int iPhysicalType, const VO
       continue;
     if (FAILED(LocateInType(spFeature, types[t], iVersion, iPosition, place)))
       return ReportAndFail(VOX_FAILED_CALL);
-    // The feature may offer more by now than the area was built for: what has no place in it is not found.
-    const Area area{_NbVersionSlots, _NbPositions, _Archivers};
-    if (!place.IsFound() || t >= _NbPhysicalTypes || place.slot >= area.Slots(t) ||
-        place.position >= area.Positions(t, place.slot))
+    // The feature may offer other versions by now than the area was built for: what has no place in it is not found.
+    if (!place.IsFound() || t >= _NbPhysicalTypes || !area.Holds(t, place.slot, place.position, iVersion._Variant != 0))
       continue;
     oPhysicalTypeIndex = t;
     oVersionIndex = place.slot;
