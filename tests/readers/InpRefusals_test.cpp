@@ -47,7 +47,7 @@ TEST(InpRefusals, EmptyAndCommentOnlyFilesAreRefused)
 
 TEST(InpRefusals, OtherProgramsFilesAreNamedWhenThatIsCertain)
 {
-  EXPECT_THAT(ReasonFor("[TITLE]\nA network\n\n[JUNCTIONS]\n;ID Elev\n 1 700\n[PIPES]\n"),
+  EXPECT_THAT(ReasonFor("; a comment\n[TITLE]\nA network\n\n[JUNCTIONS]\n;ID Elev\n 1 700\n[PIPES]\n"),
               HasSubstr("an EPANET pipe network"));
   EXPECT_THAT(ReasonFor("[TITLE]\n;;Project\n[OPTIONS]\nFLOW_UNITS CFS\n[RAINGAGES]\n[SUBCATCHMENTS]\n[JUNCTIONS]\n"),
               HasSubstr("a SWMM drainage model"));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Handlers.h"
+#include "IdPresence.h"
 
 #include <fmt/format.h>
 
@@ -117,60 +118,11 @@ void SortElements(Reading& ioReading)
   elements.offsets.Swap(offsets);
 }
 
-// Whether each node of the connectivity exists, quickly: the ids have no holes, or a bit per id tells.
-class NodePresence
-{
-public:
-  explicit NodePresence(const Column<std::int32_t>& iIds)
-      : _Ids(iIds),
-        _First(iIds.empty() ? 1 : iIds[0]),
-        _Last(iIds.empty() ? 0 : iIds.back())
-  {
-    const std::int64_t range = std::int64_t{_Last} - _First + 1;
-    _NoHoles = range == static_cast<std::int64_t>(iIds.size());
-    if (_NoHoles || range > 64 * static_cast<std::int64_t>(iIds.size()))
-      return;
-    _Bits.resize(static_cast<std::size_t>(range));
-    for (const std::int32_t id : iIds)
-      _Bits[static_cast<std::size_t>(id - _First)] = true;
-  }
-
-  bool Has(std::int32_t iId) const
-  {
-    if (iId < _First || iId > _Last || _NoHoles)
-      return iId >= _First && iId <= _Last;
-    if (!_Bits.empty())
-      return _Bits[static_cast<std::size_t>(iId - _First)];
-    return std::binary_search(_Ids.begin(), _Ids.end(), iId);
-  }
-
-  bool HasAll(const Column<std::int32_t>& iNodes) const
-  {
-    if (!_NoHoles)
-      return std::all_of(iNodes.begin(), iNodes.end(), [this](std::int32_t iId) { return Has(iId); });
-    std::int32_t least = _First;
-    std::int32_t greatest = _Last;
-    for (const std::int32_t node : iNodes)
-    {
-      least = std::min(least, node);
-      greatest = std::max(greatest, node);
-    }
-    return least == _First && greatest == _Last;
-  }
-
-private:
-  const Column<std::int32_t>& _Ids;
-  std::int32_t _First;
-  std::int32_t _Last;
-  bool _NoHoles = true;
-  std::vector<bool> _Bits;
-};
-
 // Elements with nodes that the deck does not define stay, and are reported: one finding per element card.
 void ReportMissingNodes(Reading& ioReading)
 {
   const ElementTable& elements = ioReading.model.elements;
-  const NodePresence present(ioReading.model.nodes.ids);
+  const IdPresence present(ioReading.model.nodes.ids);
   if (present.HasAll(elements.nodes))
     return;
   ioReading.cardInForce = "*ELEMENT";

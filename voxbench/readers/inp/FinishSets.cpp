@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Handlers.h"
+#include "IdPresence.h"
 
 #include <fmt/format.h>
 
@@ -13,47 +14,40 @@ namespace
 {
 using Members = Column<std::int32_t>;
 
-// The ids of the nodes or of the elements, and how to find them.
+// The nodes or the elements.
 struct Population
 {
-  const Members& ids;
-  std::function<std::int64_t(std::int32_t)> find;
+  const IdPresence& present;
   const char* what;
 };
 
-bool NoHoles(const Members& iIds)
+// A long list without order: a bit per id sorts it, drops what comes twice and what does not exist.
+void SettleByBits(Members& ioIds, const IdPresence& iPresent)
 {
-  return !iIds.empty() && std::int64_t{iIds.back()} - iIds[0] + 1 == static_cast<std::int64_t>(iIds.size());
+  std::vector<bool> named(static_cast<std::size_t>(iPresent.Range()));
+  for (const std::int32_t id : ioIds)
+    if (iPresent.Has(id))
+      named[static_cast<std::size_t>(id - iPresent.First())] = true;
+  ioIds.Truncate(0);
+  for (std::size_t at = 0; at < named.size(); ++at)
+    if (named[at])
+      ioIds.push_back(iPresent.First() + static_cast<std::int32_t>(at));
 }
 
 // Makes a list of ids a set: ascending, unique, existing ids only.
-void Settle(Members& ioIds, const Population& iPopulation)
+void Settle(Members& ioIds, const IdPresence& iPresent)
 {
   const bool ascending = std::adjacent_find(ioIds.begin(), ioIds.end(), std::greater_equal<>()) == ioIds.end();
-  if (!ascending && ioIds.size() > iPopulation.ids.size() / 64)
-  {
-    std::vector<bool> present(iPopulation.ids.size());
-    for (const std::int32_t id : ioIds)
-      if (const std::int64_t row = iPopulation.find(id); row >= 0)
-        present[static_cast<std::size_t>(row)] = true;
-    ioIds.Truncate(0);
-    for (std::size_t row = 0; row < present.size(); ++row)
-      if (present[row])
-        ioIds.push_back(iPopulation.ids[row]);
-    ioIds.ReleaseSlack();
-    return;
-  }
-  if (!ascending)
+  if (!ascending && iPresent.IsDense() && ioIds.size() > iPresent.Ids().size() / 64)
+    SettleByBits(ioIds, iPresent);
+  else if (!ascending)
   {
     std::sort(ioIds.begin(), ioIds.end());
     ioIds.Truncate(static_cast<std::size_t>(std::unique(ioIds.begin(), ioIds.end()) - ioIds.begin()));
   }
-  const bool allExist = ioIds.empty() || (NoHoles(iPopulation.ids) && ioIds[0] >= iPopulation.ids[0] &&
-                                          ioIds.back() <= iPopulation.ids.back());
-  if (!allExist)
+  if (!iPresent.HasAll(ioIds))
   {
-    const auto last =
-        std::remove_if(ioIds.begin(), ioIds.end(), [&](std::int32_t iId) { return iPopulation.find(iId) < 0; });
+    const auto last = std::remove_if(ioIds.begin(), ioIds.end(), [&](std::int32_t iId) { return !iPresent.Has(iId); });
     ioIds.Truncate(static_cast<std::size_t>(last - ioIds.begin()));
   }
   ioIds.ReleaseSlack();
@@ -62,7 +56,7 @@ void Settle(Members& ioIds, const Population& iPopulation)
 // @return how many of the range's ids exist; they are added.
 std::int64_t AddRange(const GeneratedRange& iRange, const Population& iPopulation, Members& ioIds)
 {
-  const Members& ids = iPopulation.ids;
+  const Members& ids = iPopulation.present.Ids();
   const std::size_t before = ioIds.size();
   const auto from = std::lower_bound(ids.begin(), ids.end(), iRange.first);
   for (auto at = from; at != ids.end() && *at <= iRange.last; ++at)
@@ -91,21 +85,10 @@ void ReportMissingOfRanges(Reading& ioReading, const SetBuilder& iSet, const Pop
                                  missing == 1 ? "is" : "are"));
 }
 
-bool AllExist(const Members& iIds, const Population& iPopulation)
-{
-  if (NoHoles(iPopulation.ids))
-  {
-    const auto [least, greatest] = std::minmax_element(iIds.begin(), iIds.end());
-    if (iIds.empty() || (*least >= iPopulation.ids[0] && *greatest <= iPopulation.ids.back()))
-      return true;
-  }
-  return std::all_of(iIds.begin(), iIds.end(), [&](std::int32_t iId) { return iPopulation.find(iId) >= 0; });
-}
-
 // One finding per card that lists ids which do not exist.
 void ReportMissing(Reading& ioReading, const SetBuilder& iSet, const Population& iPopulation)
 {
-  if (AllExist(iSet.ids, iPopulation))
+  if (iPopulation.present.HasAll(iSet.ids))
     return;
   for (std::size_t piece = 0; piece < iSet.pieces.size(); ++piece)
   {
@@ -113,7 +96,7 @@ void ReportMissing(Reading& ioReading, const SetBuilder& iSet, const Population&
     std::int64_t count = 0;
     std::int32_t example = 0;
     for (std::size_t at = iSet.pieces[piece].firstId; at < last; ++at)
-      if (iPopulation.find(iSet.ids[at]) < 0 && count++ == 0)
+      if (!iPopulation.present.Has(iSet.ids[at]) && count++ == 0)
         example = iSet.ids[at];
     if (count > 0)
       ioReading.Report(Severity::Error, iSet.pieces[piece].where,
@@ -197,7 +180,7 @@ void SettleSets(Reading& ioReading, SetBuilders& ioSets, const Population& iPopu
       ioReading.Report(
           Severity::Warning, all[at].where,
           fmt::format("{} contains itself; its members are those of all sets in the circle.", all[at].name));
-    Settle(oSets[at].members, iPopulation);
+    Settle(oSets[at].members, iPopulation.present);
   }
   for (std::size_t at = 0; at < all.size(); ++at)
   {
@@ -206,7 +189,7 @@ void SettleSets(Reading& ioReading, SetBuilders& ioSets, const Population& iPopu
     oSets[at].members.Swap(all[at].ids);
     for (const GeneratedRange& range : all[at].ranges)
       AddRange(range, iPopulation, oSets[at].members);
-    Settle(oSets[at].members, iPopulation);
+    Settle(oSets[at].members, iPopulation.present);
   }
 }
 } // namespace
@@ -214,12 +197,12 @@ void SettleSets(Reading& ioReading, SetBuilders& ioSets, const Population& iPopu
 void FinishSets(Reading& ioReading)
 {
   NeutralModel& model = ioReading.model;
-  const Population nodes{model.nodes.ids, [&](std::int32_t iId) { return model.nodes.Find(iId); }, "node"};
-  const Population elements{model.elements.ids, [&](std::int32_t iId) { return model.elements.Find(iId); }, "element"};
+  const IdPresence nodes(model.nodes.ids);
+  const IdPresence elements(model.elements.ids);
   ioReading.cardInForce = "*ELSET";
-  SettleSets(ioReading, ioReading.elementSets, elements, model.elementSets);
+  SettleSets(ioReading, ioReading.elementSets, {elements, "element"}, model.elementSets);
   ioReading.cardInForce = "*NSET";
-  SettleSets(ioReading, ioReading.nodeSets, nodes, model.nodeSets);
+  SettleSets(ioReading, ioReading.nodeSets, {nodes, "node"}, model.nodeSets);
   FinishSurfaces(ioReading);
 }
 

@@ -64,9 +64,9 @@ std::string LookOf(std::string_view iHead, std::string_view iFirstLine)
     return "XML";
   if (first.starts_with("{"))
     return "JSON";
-  if (first.starts_with("[") && HasAny(upper, {"[SUBCATCHMENTS]", "[RAINGAGES]", "[CONDUITS]", "[OUTFALLS]"}))
+  if (HasAny(upper, {"[SUBCATCHMENTS]", "[RAINGAGES]", "[CONDUITS]", "[OUTFALLS]"}))
     return "a SWMM drainage model";
-  if (first.starts_with("[") && HasAny(upper, {"[JUNCTIONS]", "[PIPES]", "[RESERVOIRS]", "[TANKS]"}))
+  if (HasAny(upper, {"[JUNCTIONS]", "[PIPES]", "[RESERVOIRS]", "[TANKS]"}))
     return "an EPANET pipe network";
   if (first.starts_with("["))
     return "a file of bracketed sections";
