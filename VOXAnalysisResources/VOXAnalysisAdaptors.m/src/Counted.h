@@ -18,7 +18,7 @@ public:
   ~Counted() { GiveBack(); }
   Counted(const Counted&) = delete;
   Counted& operator=(const Counted&) = delete;
-  Counted& operator=(Counted&& ioOther)
+  Counted& operator=(Counted&& ioOther) // NOLINT(performance-noexcept-move-constructor): a Release may throw
   {
     GiveBack();
     _Given = ioOther.HandOn();

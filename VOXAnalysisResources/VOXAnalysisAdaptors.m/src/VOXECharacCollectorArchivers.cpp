@@ -249,7 +249,6 @@ HRESULT VOXECharacCollector::LocateCollectorArchiver(int iPhysicalType, const VO
   if (FAILED(spFeature->GetAvailablePhysicalTypes(nbTypes, types, reserved)))
     return ReportAndFail(VOX_FAILED_CALL);
 
-  const Area area{_NbVersionSlots, _NbPositions, _Archivers};
   Place place;
   for (int t = 0; t < nbTypes && !place.IsFound(); ++t)
   {
@@ -258,6 +257,7 @@ HRESULT VOXECharacCollector::LocateCollectorArchiver(int iPhysicalType, const VO
     if (FAILED(LocateInType(spFeature, types[t], iVersion, iPosition, place)))
       return ReportAndFail(VOX_FAILED_CALL);
     // The feature may offer other versions by now than the area was built for: what has no place in it is not found.
+    const Area area{_NbVersionSlots, _NbPositions, _Archivers};
     if (!place.IsFound() || t >= _NbPhysicalTypes || !area.Holds(t, place.slot, place.position, iVersion._Variant != 0))
       continue;
     oPhysicalTypeIndex = t;
