@@ -49,9 +49,15 @@ inline const char* ElementLines(const char* iText, const char* iLimit, int iNode
   oLines = 1;
   for (int node = 0; node < iNodeCount && text != nullptr; ++node)
   {
-    if (text[0] == ',' && scan::IsDigit(text[text[1] == ' ' ? 2 : 1])) // nearly always
+    // The two usual ways as two branches: a computed step would make each number wait for the one before.
+    if (text[0] == ',' && text[1] == ' ' && scan::IsDigit(text[2]))
     {
-      text = scan::Id(text + (text[1] == ' ' ? 2 : 1), oNodes[node]);
+      text = scan::Id(text + 2, oNodes[node]);
+      continue;
+    }
+    if (text[0] == ',' && scan::IsDigit(text[1]))
+    {
+      text = scan::Id(text + 1, oNodes[node]);
       continue;
     }
     text = SkipBlanks(text);
