@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <new>
+#include <utility>
 
 extern "C"
 {
@@ -91,10 +92,18 @@ void Free(void* iBlock) noexcept
   std::free(iBlock);
 }
 
+std::function<void()> g_whenArraysReturn;
+
 void FreeArray(void* iBlock) noexcept
 {
+  const auto before = voxhost::Ledger::Read().arraysOut;
   voxhost::Ledger::ArrayFreed(iBlock);
   Free(iBlock);
+  if (!g_whenArraysReturn || voxhost::Ledger::Read().arraysOut == before)
+    return;
+  const std::function<void()> callback = std::exchange(g_whenArraysReturn, {});
+  callback();
+  g_whenArraysReturn = callback;
 }
 
 } // namespace
@@ -170,6 +179,16 @@ void Memory::Disarm()
 int Memory::Calls()
 {
   return g_plan.calls;
+}
+
+WhenArraysReturn::WhenArraysReturn(std::function<void()> iCallback)
+{
+  g_whenArraysReturn = std::move(iCallback);
+}
+
+WhenArraysReturn::~WhenArraysReturn()
+{
+  g_whenArraysReturn = {};
 }
 
 MemoryWatch::MemoryWatch()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 namespace voxtest
@@ -30,6 +31,17 @@ public:
 
   //! Allocations with std::nothrow since the last Count, FailCall or FailSize.
   static int Calls();
+};
+
+//! Calls a function whenever the ledger's host gets an array back, that is inside operator delete[]: a way to look, or to
+//! call back, into an operation that is just freeing what it was given. One at a time; not called while it runs.
+class WhenArraysReturn
+{
+public:
+  explicit WhenArraysReturn(std::function<void()> iCallback);
+  ~WhenArraysReturn();
+  WhenArraysReturn(const WhenArraysReturn&) = delete;
+  WhenArraysReturn& operator=(const WhenArraysReturn&) = delete;
 };
 
 //! Watches the blocks that are allocated while it lives. One at a time.

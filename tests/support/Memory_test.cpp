@@ -80,6 +80,22 @@ TEST(Memory, TellsTheLedgerThatAnArrayWasFreed)
   Ledger::TurnOff();
 }
 
+TEST(Memory, CallsBackWhenAnArrayOfTheHostReturns)
+{
+  Ledger::TurnOn();
+  int returned = 0;
+  {
+    const WhenArraysReturn count([&] { ++returned; });
+    delete[] new int[3]; // not the host's
+    EXPECT_EQ(returned, 0);
+    delete[] Ledger::HandOut(new int[3]);
+    EXPECT_EQ(returned, 1);
+  }
+  delete[] Ledger::HandOut(new int[3]);
+  EXPECT_EQ(returned, 1);
+  Ledger::TurnOff();
+}
+
 TEST(MemoryWatch, TellsWhatIsStillThere)
 {
   MemoryWatch watch;
