@@ -8,6 +8,7 @@
 #include "VOXEAnalysisFeatureUpdate.h"
 #include "VOXEAnalysisGroup.h"
 #include "VOXEAnalysisSupportFilter.h"
+#include "VOXEAnalysisUpgradeContainer.h"
 #include "VOXESamImportDefineAdaptor.h"
 #include "VOXSamBasicComponentManagerAdaptor.h"
 #include "VOXSamGroupTools.h"
@@ -53,6 +54,7 @@ static_assert(KeepsThePattern<VOXEAnalysisEntityVisu, VOXISamEntityVisu>());
 static_assert(KeepsThePattern<VOXEAnalysisFeatureUpdate, VOXISamAnalysisFeatureUpdate>());
 static_assert(KeepsThePattern<VOXEAnalysisGroup, VOXISamGroup>());
 static_assert(KeepsThePattern<VOXEAnalysisSupportFilter, VOXISamSupportFilter>());
+static_assert(KeepsThePattern<VOXEAnalysisUpgradeContainer, VOXISamUpgradeContainer>());
 static_assert(KeepsThePattern<VOXESamImportDefineAdaptor, VOXISamImportDefine>());
 static_assert(KeepsThePattern<VOXSamBasicComponentManagerAdaptor, VOXISamBasicComponentManager>());
 

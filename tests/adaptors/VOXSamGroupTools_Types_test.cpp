@@ -88,12 +88,12 @@ TEST_F(VOXSamGroupToolsTypes, AnUnknownKeywordOfElementsIsReportedByItself)
 TEST_F(VOXSamGroupToolsTypes, TheRejectedKeywordCanBeReadAfterItsOwnerIsGone)
 {
   ErrorLog::SetResetsPendingError(false);
-  for (const std::string keyword : {"a keyword long enough to live on the heap", "another one that replaces the first"})
+  for (const std::string keyword : {"a keyword that lives on the heap", "another one in place of it"})
   {
-    {
-      const std::string copy = keyword;
-      Ask(kElement, copy.c_str());
-    }
+    Ask(kElement, std::string(keyword).c_str());
+    std::vector<VOXString> takers; // of the memory that the argument gave back
+    for (int i = 0; i < 8; ++i)
+      takers.emplace_back(std::string(keyword.size(), '#').c_str());
     ASSERT_NE(ErrorDepthHandler::_c_err_, nullptr);
     EXPECT_EQ(ErrorDepthHandler::_c_err_, keyword);
   }

@@ -4,8 +4,11 @@
 #include "host/Instruments/Ledger.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <new>
 #include <utility>
+
+#include <malloc.h>
 
 extern "C"
 {
@@ -16,6 +19,8 @@ extern "C"
 
 namespace
 {
+
+constexpr int kFreed = 0xdd;
 
 struct NothrowPlan
 {
@@ -89,6 +94,8 @@ void Free(void* iBlock) noexcept
 {
   if (g_watched.on)
     g_watched.Remove(iBlock);
+  if (iBlock != nullptr)
+    std::memset(iBlock, kFreed, malloc_usable_size(iBlock)); // what is read after this is seen to be wrong
   std::free(iBlock);
 }
 

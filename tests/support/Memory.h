@@ -13,6 +13,7 @@ namespace voxtest
 //! - operator delete[] tells the ledger of the reference host about every array, so that arrays handed out are settled.
 //! - `new (std::nothrow)` can be counted and told to fail: that is how contracts and adaptors ask for memory that may be
 //!   missing. The throwing form is never failed.
+//! - A block is overwritten when it is freed, so that whoever still reads it gets nonsense in every build.
 //! - One thread only, like everything the tests run on.
 class Memory
 {
