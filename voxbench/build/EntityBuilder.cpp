@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+// The entities that the cards of a file define: properties, masses, restraints, loads, modulations and sensors.
+#include "voxbench/build/EntityNames.h"
+#include "voxbench/build/ModelBuilder.h"
+#include "voxbench/features/TypeNames.h"
+
+#include <algorithm>
+
+namespace voxbench
+{
+namespace
+{
+
+const char* PhysicalTypeOf(SectionKind iKind)
+{
+  switch (iKind)
+  {
+  case SectionKind::Solid:
+    return "SOLID_PROPERTY";
+  case SectionKind::Shell:
+  case SectionKind::Membrane:
+    return "SHELL_PROPERTY";
+  case SectionKind::Beam:
+    return "BEAM_PROPERTY";
+  case SectionKind::Spring:
+  case SectionKind::Dashpot:
+    return "SPRING_PROPERTY";
+  case SectionKind::Mass:
+    return "POINT_MASS";
+  case SectionKind::Fluid:
+  case SectionKind::Gap:
+  case SectionKind::User:
+    break;
+  }
+  return "OTHER_PROPERTY";
+}
+
+const char* PhysicalTypeOf(const AppliedCard& iLoad)
+{
+  if (iLoad.keyword == "CLOAD")
+    return "CONCENTRATED_LOAD";
+  if (iLoad.keyword == "DLOAD" || iLoad.keyword == "DSLOAD")
+    return "DISTRIBUTED_LOAD";
+  if (iLoad.keyword == "MASSFLOW")
+    return "OTHER_LOAD";
+  return "THERMAL_LOAD";
+}
+
+} // namespace
+
+ModelBuilder::Pair ModelBuilder::MakeEntity(const Pair& iSet, const Plan& iPlan, const std::string& iKeyword,
+                                            std::int32_t iStep)
+{
+  const Pair entity = Make(iSet, iPlan);
+  entity.feature->Set("Keyword", iKeyword);
+  entity.feature->Set("Step", iStep);
+  return entity;
+}
+
+void ModelBuilder::Finish(const Pair& iEntity, ApplyToUnion& ioTargets, const std::vector<voxhost::Feature*>& iSupports)
+{
+  for (voxhost::Feature* const support : iSupports)
+    iEntity.feature->Add("Supports", *support);
+  _Model.SetApplyTo(iEntity.object, ioTargets.Take());
+}
+
+void ModelBuilder::BuildProperties()
+{
+  const Pair properties = MakeSet("PropertySet", "PROPERTY_SET", "Properties");
+  const Pair masses = MakeSet("MassSet", "MASS_SET", "Masses");
+  for (const Section& section : _Records.sections)
+  {
+    const bool isMass = section.kind == SectionKind::Mass;
+    const Plan plan{isMass ? kMassType : kPropertyType, PhysicalTypeOf(section.kind), NextName(section.card.keyword),
+                    AliasOf(section)};
+    const Pair entity = MakeEntity(isMass ? masses : properties, plan, section.card.keyword, section.card.step);
+    ApplyToUnion targets(_Model.Mesh());
+    std::vector<voxhost::Feature*> supports;
+    if (const NamedGroup* const group = Find(_ElementGroups, section.elementSet))
+    {
+      targets.Add(group->members);
+      supports.push_back(group->feature);
+    }
+    Finish(entity, targets, supports);
+  }
+}
+
+void ModelBuilder::BuildRestraints()
+{
+  const Pair restraints = MakeSet("RestraintSet", "RESTRAINT_SET", "Restraints");
+  for (const AppliedCard& card : _Records.restraints)
+    BuildApplied(restraints, kRestraintType, "DISPLACEMENT", card);
+}
+
+void ModelBuilder::BuildLoads()
+{
+  const Pair loads = MakeSet("LoadSet", "LOAD_SET", "Loads");
+  for (const AppliedCard& card : _Records.loads)
+    BuildApplied(loads, kLoadType, PhysicalTypeOf(card), card);
+}
+
+void ModelBuilder::BuildApplied(const Pair& iSet, const char* iType, const char* iPhysicalType,
+                                const AppliedCard& iCard)
+{
+  const bool onNodes = ActsOnNodes(iCard);
+  const Plan plan{iType, iPhysicalType, NextName(iCard.keyword), AliasOf(iCard, _Records)};
+  const Pair entity = MakeEntity(iSet, plan, iCard.keyword, iCard.step);
+
+  ApplyToUnion targets(_Model.Mesh());
+  std::vector<voxhost::Feature*> supports;
+  for (const AppliedRow& row : iCard.rows)
+  {
+    if (row.name < 0 && onNodes)
+      targets.AddNode(row.id);
+    else if (row.name < 0)
+      targets.AddElement(row.id);
+    else if (const NamedGroup* const group = FindTarget(_Records.names[static_cast<std::size_t>(row.name)], onNodes))
+    {
+      if (std::find(supports.begin(), supports.end(), group->feature) != supports.end())
+        continue;
+      targets.Add(group->members);
+      supports.push_back(group->feature);
+    }
+  }
+  Finish(entity, targets, supports);
+}
+
+void ModelBuilder::BuildModulations()
+{
+  const Pair modulations = MakeSet("ModulationSet", "MODULATION_SET", "Modulations");
+  for (const Amplitude& amplitude : _Records.amplitudes)
+    MakeEntity(modulations, {kModulationType, "MODULATION", NextName("AMPLITUDE"), amplitude.name}, "AMPLITUDE",
+               amplitude.card.step);
+}
+
+void ModelBuilder::BuildSensors()
+{
+  const Pair sensors = MakeSet("SensorSet", "SENSOR_SET", "Sensors");
+  for (const OutputRequest& request : _Records.outputRequests)
+  {
+    const Plan plan{kSensorType, "SENSOR", NextName(request.keyword), AliasOf(request)};
+    const Pair entity = MakeEntity(sensors, plan, request.keyword, request.card.step);
+    if (request.set.empty())
+      continue; // of the whole model
+    ApplyToUnion targets(_Model.Mesh());
+    std::vector<voxhost::Feature*> supports;
+    if (const NamedGroup* const group = FindTarget(request.set, request.keyword.starts_with("NODE")))
+    {
+      targets.Add(group->members);
+      supports.push_back(group->feature);
+    }
+    Finish(entity, targets, supports);
+  }
+}
+
+const ModelBuilder::NamedGroup* ModelBuilder::Find(const NamedGroups& iIndex, std::string_view iName) const
+{
+  const auto found = iIndex.find(std::string(iName));
+  return found == iIndex.end() ? nullptr : &found->second;
+}
+
+const ModelBuilder::NamedGroup* ModelBuilder::FindTarget(const std::string& iName, bool iOnNodes) const
+{
+  const NamedGroups* const order[] = {iOnNodes ? &_NodeGroups : &_ElementGroups, &_Surfaces, &_NodeSurfaces,
+                                      iOnNodes ? &_ElementGroups : &_NodeGroups};
+  for (const NamedGroups* const index : order)
+    if (const NamedGroup* const group = Find(*index, iName))
+      return group;
+  return nullptr;
+}
+
+} // namespace voxbench

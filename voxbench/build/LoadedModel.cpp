@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "voxbench/build/LoadedModel.h"
+#include "voxbench/build/ModelBuilder.h"
+#include "voxbench/features/Catalogue.h"
+
+#include <algorithm>
+
+namespace voxbench
+{
+
+LoadedModel::LoadedModel() = default;
+LoadedModel::~LoadedModel() = default;
+
+std::string LoadedModel::Build(NeutralModel ioRecords)
+{
+  _Records = std::move(ioRecords);
+  _Explicit = std::make_unique<voxhost::ExplicitModel>();
+  _Document = std::make_unique<voxhost::Document>(WorkbenchTypes());
+  _Document->SetExplicitModel(_Explicit.get());
+  ModelBuilder builder(_Records, *_Document, *_Explicit);
+  _Root = builder.Build();
+  return builder.Failure();
+}
+
+std::vector<voxhost::Feature*> LoadedModel::Groups() const
+{
+  for (const voxhost::Feature* const set : ChildrenOf(*_Root))
+    if (set->Type().IsSubTypeOf("GroupSet"))
+      return ChildrenOf(*set);
+  return {};
+}
+
+std::optional<std::int64_t> LoadedModel::EntitiesOf(const voxhost::Feature& iFeature) const
+{
+  std::optional<std::int64_t> entities;
+  const auto add = [&entities](const voxhost::Record& iRecord)
+  {
+    if (iRecord.applyTo.position != VOXSamPositionUnknown)
+      entities = entities.value_or(0) + static_cast<std::int64_t>(iRecord.applyTo.places.size());
+  };
+  for (const std::int32_t tag : iFeature.ExplicitTags())
+  {
+    VOXAnalysisExplicitChild object;
+    object.LinkWithTag(tag, _Explicit.get());
+    const voxhost::Record* const record = _Explicit->RecordOf(object);
+    if (record == nullptr)
+      continue;
+    if (record->hasMesh)
+      return static_cast<std::int64_t>(_Explicit->Mesh().elementIds.size());
+    add(*record);
+    if (iFeature.Type().IsSubTypeOf("SAMSpecifiedGroup"))
+      for (VOXSamModelDataRoot* const child : record->children)
+        add(*_Explicit->RecordAt(*child));
+  }
+  return entities;
+}
+
+std::vector<voxhost::Feature*> LoadedModel::ChildrenOf(const voxhost::Feature& iFeature)
+{
+  std::vector<voxhost::Feature*> children;
+  const auto& attributes = iFeature.Type().Attributes();
+  for (std::size_t place = 0; place < attributes.size(); ++place)
+    if (attributes[place].HoldsComponents())
+      for (voxhost::Feature* const child : iFeature.Features(static_cast<int>(place)))
+        children.push_back(child);
+  return children;
+}
+
+std::string LoadedModel::DisplayName(const voxhost::Feature& iFeature)
+{
+  const VOXUnicodeString alias = iFeature.Text("Alias");
+  const VOXUnicodeString& shown = alias == "" ? iFeature.Name() : alias;
+  return static_cast<const char*>(shown);
+}
+
+} // namespace voxbench

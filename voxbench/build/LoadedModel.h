@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include "host/ExplicitModel/ExplicitModel.h"
+#include "host/FeatureModeler/Document.h"
+#include "voxbench/readers/NeutralModel.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace voxbench
+{
+
+//! A file, opened: the document with its feature tree, the explicit model, and the records that both were made from.
+//!
+//! - Owns all three. Features that it hands out are borrowed.
+//! - The mesh and the members of sets stand in the explicit model alone: they were moved there out of the records.
+class LoadedModel
+{
+public:
+  LoadedModel();
+  ~LoadedModel();
+  LoadedModel(const LoadedModel&) = delete;
+  LoadedModel& operator=(const LoadedModel&) = delete;
+
+  //! Makes document and explicit model; once. @return what is wrong, a sentence: the model is then of no use; else "".
+  std::string Build(NeutralModel ioRecords);
+
+  const NeutralModel& Records() const { return _Records; }
+  voxhost::Document& Document() const { return *_Document; }
+  voxhost::ExplicitModel& Explicit() const { return *_Explicit; }
+
+  //! The analysis model: the root of the feature tree.
+  voxhost::Feature& Root() const { return *_Root; }
+
+  //! The features of the group set, in their order.
+  std::vector<voxhost::Feature*> Groups() const;
+
+  //! Number of nodes, elements or sides that a feature's objects in the explicit model apply to; of a mesh its elements.
+  //! None for features that apply to nothing by their nature, such as sets.
+  std::optional<std::int64_t> EntitiesOf(const voxhost::Feature& iFeature) const;
+
+  //! The features that a feature holds, in the order of its attributes.
+  static std::vector<voxhost::Feature*> ChildrenOf(const voxhost::Feature& iFeature);
+
+  //! The alias; of a feature without one, its name.
+  static std::string DisplayName(const voxhost::Feature& iFeature);
+
+private:
+  NeutralModel _Records;
+  std::unique_ptr<voxhost::ExplicitModel> _Explicit; // outlives the document, whose features have handles on it
+  std::unique_ptr<voxhost::Document> _Document;
+  voxhost::Feature* _Root = nullptr;
+};
+
+} // namespace voxbench
