@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "voxbench/commands/OpenFile.h"
+#include "voxbench/commands/Progress.h"
+#include "voxbench/readers/inp/InpReader.h"
+#include "voxbench/report/ExitCode.h"
+
+#include <CLI/CLI.hpp>
+
+namespace voxbench
+{
+namespace
+{
+
+int Unreadable(const ReadOutcome& iOutcome, Console& ioConsole)
+{
+  ioConsole.errors << "voxbench: " << iOutcome.Describe() << '\n';
+  return kExitUnreadable;
+}
+
+} // namespace
+
+void FileOptions::Declare(CLI::App& ioParser)
+{
+  ioParser.add_option("FILE", file, "The model: a keyword deck (.inp), plain or compressed (.inp.gz)")->required();
+  ioParser.add_flag("--json", json, "Print one JSON object instead of text");
+}
+
+int OpenRecords(const std::string& iFile, Console& ioConsole, NeutralModel& oRecords)
+{
+  ReadOutcome outcome;
+  {
+    Progress progress(ioConsole.errors, "Reading " + iFile, ioConsole.errorsAreTerminal);
+    ReadOptions options;
+    options.progress = [&progress](std::uint64_t iDone, std::uint64_t iTotal) { progress.Report(iDone, iTotal); };
+    outcome = ReadInp(iFile, options, oRecords);
+  }
+  return outcome.ok ? static_cast<int>(kExitDone) : Unreadable(outcome, ioConsole);
+}
+
+int OpenModel(const std::string& iFile, Console& ioConsole, LoadedModel& oModel)
+{
+  NeutralModel records;
+  if (const int code = OpenRecords(iFile, ioConsole, records); code != kExitDone)
+    return code;
+  if (const std::string reason = oModel.Build(std::move(records)); !reason.empty())
+  {
+    ioConsole.errors << "voxbench: " << iFile << ": " << reason << '\n';
+    return kExitUnreadable;
+  }
+  return kExitDone;
+}
+
+int FinishOutput(Output& ioOutput, Console& ioConsole, int iCode)
+{
+  if (ioOutput.Flush())
+    return iCode;
+  ioConsole.errors << "voxbench: the output cannot be written: the disk may be full\n";
+  return kExitSomeFailed;
+}
+
+} // namespace voxbench

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include "voxbench/build/LoadedModel.h"
+#include "voxbench/commands/Console.h"
+#include "voxbench/report/Output.h"
+
+#include <string>
+
+namespace CLI
+{
+class App;
+}
+
+namespace voxbench
+{
+
+//! What every subcommand on one file is told.
+struct FileOptions
+{
+  std::string file;
+  bool json = false;
+
+  void Declare(CLI::App& ioParser);
+};
+
+//! Reads a file with a progress bar. @return kExitDone; kExitUnreadable after a sentence to the error stream.
+int OpenRecords(const std::string& iFile, Console& ioConsole, NeutralModel& oRecords);
+int OpenModel(const std::string& iFile, Console& ioConsole, LoadedModel& oModel);
+
+//! Hands the output over. @return iCode, or kExitSomeFailed after a sentence when it cannot be written.
+int FinishOutput(Output& ioOutput, Console& ioConsole, int iCode);
+
+} // namespace voxbench

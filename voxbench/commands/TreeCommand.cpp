@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "voxbench/commands/TreeCommand.h"
+#include "voxbench/report/TreeReport.h"
+
+#include <CLI/CLI.hpp>
+
+namespace voxbench
+{
+namespace
+{
+
+std::int64_t CountBelow(const voxhost::Feature& iFeature)
+{
+  std::int64_t count = 0;
+  for (const voxhost::Feature* const child : LoadedModel::ChildrenOf(iFeature))
+    count += 1 + CountBelow(*child);
+  return count;
+}
+
+//! @param iLevels how many levels below the feature are told; -1 for all.
+TreeNode NodeOf(const LoadedModel& iModel, const voxhost::Feature& iFeature, int iLevels)
+{
+  TreeNode node{LoadedModel::DisplayName(iFeature), iFeature.Type().Name(), iModel.EntitiesOf(iFeature), 0, {}};
+  if (iLevels == 0)
+  {
+    node.hidden = CountBelow(iFeature);
+    return node;
+  }
+  for (const voxhost::Feature* const child : LoadedModel::ChildrenOf(iFeature))
+    node.children.push_back(NodeOf(iModel, *child, iLevels - 1));
+  return node;
+}
+
+} // namespace
+
+CommandDescription TreeCommand::Describe() const
+{
+  return {"tree",
+          "Show the feature tree",
+          "One line per feature: its name, its type, and of entities the number of nodes, elements or sides that\n"
+          "they apply to. Each level is indented by two blanks, so that the lines can be searched and cut.",
+          {{"voxbench tree bracket.inp", "the whole tree"},
+           {"voxbench tree bracket.inp --depth 1", "the sets of the analysis model, and how much is in them"},
+           {"voxbench tree bracket.inp --json", "the same for a program"}},
+          {{kExitDone, "the tree was shown"},
+           {kExitSomeFailed, "the output cannot be written"},
+           {kExitWrongUsage, "wrong usage"},
+           {kExitUnreadable, "FILE cannot be read"}}};
+}
+
+void TreeCommand::DeclareOptions(CLI::App& ioParser)
+{
+  _File.Declare(ioParser);
+  ioParser.add_option("--depth", _Depth, "Show N levels below the analysis model")
+      ->check(CLI::NonNegativeNumber)
+      ->option_text("N");
+}
+
+int TreeCommand::Run(Console& ioConsole)
+{
+  LoadedModel model;
+  if (const int code = OpenModel(_File.file, ioConsole, model); code != kExitDone)
+    return code;
+  const TreeNode root = NodeOf(model, model.Root(), _Depth);
+  Output output(ioConsole.out);
+  if (_File.json)
+    WriteTreeJson(output, root);
+  else
+    PrintTree(output, root);
+  return FinishOutput(output, ioConsole, kExitDone);
+}
+
+} // namespace voxbench

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#include "voxbench/commands/Program.h"
+
+#include <iostream>
+#include <unistd.h>
+
+int main(int iCount, char** iArguments)
+{
+  std::ios::sync_with_stdio(false);
+  voxbench::Console console{std::cout, std::cerr, isatty(STDERR_FILENO) != 0};
+  return voxbench::RunProgram({iArguments + 1, iArguments + iCount}, console);
+}
