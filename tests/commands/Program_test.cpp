@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+// What holds for every subcommand, seen from a shell.
+#include "RunProgram.h"
+#include "voxbench/commands/Command.h"
+#include "voxbench/commands/Progress.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <sstream>
+#include <unistd.h>
+
+using testing::HasSubstr;
+using testing::Not;
+using voxtest::RunBuiltProgram;
+using voxtest::RunInProcess;
+
+namespace
+{
+
+const std::string kDeck = voxtest::DataFile("plate_on_block.inp");
+
+std::vector<voxbench::CommandDescription> AllDescriptions()
+{
+  std::vector<voxbench::CommandDescription> all;
+  for (const voxbench::CommandFactory make : voxbench::CommandTable())
+    all.push_back(make()->Describe());
+  return all;
+}
+
+TEST(Program, HelpListsEverySubcommandWithItsSummary)
+{
+  const auto run = RunBuiltProgram({"--help"});
+  EXPECT_EQ(run.code, 0);
+  EXPECT_EQ(run.errors, "");
+  for (const auto& command : AllDescriptions())
+  {
+    EXPECT_THAT(run.out, HasSubstr(command.name));
+    EXPECT_THAT(run.out, HasSubstr(command.summary));
+  }
+}
+
+TEST(Program, HelpOfEverySubcommandHasExamplesAndExitCodes)
+{
+  for (const auto& command : AllDescriptions())
+  {
+    const auto run = RunInProcess({command.name, "--help"});
+    EXPECT_EQ(run.code, 0);
+    EXPECT_THAT(run.out, HasSubstr("Usage: voxbench " + command.name));
+    EXPECT_THAT(run.out, HasSubstr("--json"));
+    for (const auto& example : command.examples)
+      EXPECT_THAT(run.out, HasSubstr(example.line));
+    for (const auto& exit : command.exits)
+      EXPECT_THAT(run.out, HasSubstr(std::to_string(exit.code) + "  " + exit.meaning));
+  }
+}
+
+TEST(Program, NoLineOfAnyHelpIsWiderThanAnOrdinaryWindow)
+{
+  for (const auto& command : AllDescriptions())
+  {
+    std::istringstream lines(RunInProcess({command.name, "--help"}).out);
+    for (std::string line; std::getline(lines, line);)
+      EXPECT_LE(line.size(), 110u) << line;
+  }
+}
+
+TEST(Program, TellsItsVersion)
+{
+  const auto run = RunBuiltProgram({"--version"});
+  EXPECT_EQ(run.code, 0);
+  EXPECT_TRUE(run.out.starts_with("voxbench ")) << run.out;
+}
+
+TEST(Program, WithoutArgumentsPrintsItsHelpAsAWrongUse)
+{
+  const auto run = RunBuiltProgram({});
+  EXPECT_EQ(run.code, 2);
+  EXPECT_EQ(run.out, "");
+  EXPECT_THAT(run.errors, HasSubstr("groups"));
+}
+
+TEST(Program, AnUnknownSubcommandIsAWrongUseAndNamesThoseThatExist)
+{
+  const auto run = RunBuiltProgram({"grups", kDeck});
+  EXPECT_EQ(run.code, 2);
+  EXPECT_EQ(run.out, "");
+  EXPECT_THAT(run.errors, HasSubstr("there is no command grups; there are info, tree, groups"));
+}
+
+TEST(Program, AMissingFileArgumentIsAWrongUse)
+{
+  for (const auto& command : AllDescriptions())
+  {
+    const auto run = RunInProcess({command.name});
+    EXPECT_EQ(run.code, 2);
+    EXPECT_THAT(run.errors, HasSubstr("voxbench " + command.name + ": FILE is required"));
+  }
+}
+
+TEST(Program, AnUnknownOptionIsAWrongUse)
+{
+  const auto run = RunBuiltProgram({"info", kDeck, "--jsn"});
+  EXPECT_EQ(run.code, 2);
+  EXPECT_THAT(run.errors, HasSubstr("--jsn"));
+}
+
+TEST(Program, AFileThatIsNotThereIsUnreadable)
+{
+  for (const auto& command : AllDescriptions())
+  {
+    const auto run = RunBuiltProgram({command.name, "/no/such/deck.inp", "--json"});
+    EXPECT_EQ(run.code, 3);
+    EXPECT_EQ(run.out, "");
+    EXPECT_THAT(run.errors, HasSubstr("/no/such/deck.inp"));
+  }
+}
+
+TEST(Program, AFolderIsUnreadable)
+{
+  const auto run = RunBuiltProgram({"groups", std::filesystem::temp_directory_path().string()});
+  EXPECT_EQ(run.code, 3);
+  EXPECT_EQ(run.out, "");
+  EXPECT_THAT(run.errors, HasSubstr("irectory"));
+}
+
+TEST(Program, AnEmptyFileIsUnreadable)
+{
+  const auto run = RunBuiltProgram({"tree", voxtest::TemporaryFile("empty.inp", "")});
+  EXPECT_EQ(run.code, 3);
+  EXPECT_THAT(run.errors, HasSubstr("empty.inp:1: the file is empty"));
+}
+
+TEST(Program, AFileWithoutReadPermissionIsUnreadable)
+{
+  if (geteuid() == 0)
+    GTEST_SKIP() << "root may read everything";
+  const std::string file = voxtest::TemporaryFile("locked.inp", "*NODE\n1, 0., 0., 0.\n");
+  std::filesystem::permissions(file, std::filesystem::perms::none);
+  const auto run = RunBuiltProgram({"info", file});
+  EXPECT_EQ(run.code, 3);
+  EXPECT_THAT(run.errors, HasSubstr("locked.inp"));
+}
+
+TEST(Program, AFileOfAnotherKindIsRefusedWithItsReason)
+{
+  const auto run = RunBuiltProgram({"info", voxtest::TemporaryFile("foreign.inp", std::string("\x7f"
+                                                                                              "ELF\0\0\0\0",
+                                                                                              8))});
+  EXPECT_EQ(run.code, 3);
+  EXPECT_EQ(run.out, "");
+  EXPECT_THAT(run.errors, HasSubstr("foreign.inp"));
+}
+
+TEST(Program, AMissingIncludedFileIsNamedWithTheLineThatIncludesIt)
+{
+  const std::string file = voxtest::TemporaryFile("main.inp", "*NODE\n1, 0., 0., 0.\n*INCLUDE, INPUT=absent.inp\n");
+  const auto run = RunBuiltProgram({"groups", file});
+  EXPECT_EQ(run.code, 3);
+  EXPECT_THAT(run.errors, HasSubstr("main.inp:3"));
+  EXPECT_THAT(run.errors, HasSubstr("absent.inp"));
+}
+
+TEST(Program, AnOutputThatCannotBeWrittenIsAFailure)
+{
+  if (!std::filesystem::exists("/dev/full"))
+    GTEST_SKIP() << "there is no device that is always full";
+  const std::string line = VOXBENCH_PROGRAM " info '" + kDeck + "' >/dev/full 2>/dev/null";
+  const int status = std::system(line.c_str());
+  EXPECT_EQ(WEXITSTATUS(status), 1);
+}
+
+TEST(Progress, DrawsNothingForQuickWork)
+{
+  std::ostringstream stream;
+  {
+    voxbench::Progress progress(stream, "Reading", true);
+    progress.Report(1, 2);
+    progress.Report(2, 2);
+  }
+  EXPECT_EQ(stream.str(), "");
+}
+
+} // namespace
