@@ -183,6 +183,7 @@ TEST_F(VOXSamGroupToolsVisu, AsksTheHostInThisOrder)
   World world;
   world.HoldIn("MSHSetContainer");
   const VOXHandle<VOXIMSHVisuGrouper> spGrouper(world.feature); // made already
+  ScriptedSpecObject::ScriptOf(world.feature).father->IsA();    // described already
   CallLog log;
   world.MakeReady();
   EXPECT_EQ(log.All(), (Calls{"VOXBaseUnknown::QueryInterface", "VOXGetUniqueIdentifier", "VOXISpecObject::GetFather",

@@ -11,6 +11,7 @@ using voxhost::Faults;
 TEST(CallLog, KeepsHostCallsAndScriptedCallsInOneOrder)
 {
   VOXBaseUnknown object;
+  object.IsA(); // describes the class, once per process
   CallLog log;
   object.IsAKindOf("VOXBaseUnknown");
   CallLog::Enter("VOXIThing::Do", 3, "text");

@@ -83,7 +83,8 @@ private:
 
 //! Tortures one operation of an adaptor, or of a feature type that derives from one.
 //!
-//! The scenario runs once, and the calls that the operation makes into the host are counted. Then it runs once per call
+//! The scenario runs undisturbed (twice: the first time warms the host up), and the calls that the operation makes into
+//! the host are counted. Then it runs once per call
 //! with that call failing, and once more per call with that one and all later ones failing; the same for every allocation
 //! that may answer "no memory". All of that twice: with a host that sets the pending error back after a report, and with
 //! one that does not. After each run it is checked that
