@@ -84,10 +84,9 @@ private:
 //! Tortures one operation of an adaptor, or of a feature type that derives from one.
 //!
 //! The scenario runs undisturbed (twice: the first time warms the host up), and the calls that the operation makes into
-//! the host are counted. Then it runs once per call
-//! with that call failing, and once more per call with that one and all later ones failing; the same for every allocation
-//! that may answer "no memory". All of that twice: with a host that sets the pending error back after a report, and with
-//! one that does not. After each run it is checked that
+//! the host are counted. Then it runs once per call with that call failing, and once more per call with that one and all
+//! later ones failing; the same for every allocation that may answer "no memory". All of that twice: with a host that
+//! sets the pending error back after a report, and with one that does not. After each run it is checked that
 //! - the operation gave one of the answers that the scenario allows, and the undisturbed run succeeded;
 //! - an answer of E_FAIL came with reports, each of a site that the scenario names, the last from the operation itself;
 //!   any other answer came without;
