@@ -2,6 +2,7 @@
 // Every deck of the package that is installed, through the whole program, in one process.
 #include "RunProgram.h"
 #include "host/Instruments/Ledger.h"
+#include "tests/support/Memory.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -85,6 +86,7 @@ protected:
   {
     ASSERT_FALSE(decks.empty()) << "there are no decks: install the package calculix-ccx-test, or let VOX_DECKS name a "
                                    "folder of .inp files";
+    voxtest::Memory::Disarm(); // links its operator delete[], which settles arrays that were handed out
     voxhost::Ledger::TurnOn();
   }
   void TearDown() override { voxhost::Ledger::TurnOff(); }

@@ -55,6 +55,27 @@ std::string TargetsOf(const AppliedCard& iCard, const NeutralModel& iRecords)
   return fmt::format(" on {}", fmt::join(named, " and "));
 }
 
+//! The label or the degrees of freedom, when all rows have the same: " GRAV", " 1-3".
+std::string WhatOf(const AppliedCard& iCard, const NeutralModel& iRecords)
+{
+  if (iCard.rows.empty())
+    return "";
+  const AppliedRow& first = iCard.rows.front();
+  const bool alike = std::all_of(iCard.rows.begin(), iCard.rows.end(),
+                                 [&first](const AppliedRow& iRow) {
+                                   return iRow.label == first.label && iRow.firstDof == first.firstDof &&
+                                          iRow.lastDof == first.lastDof;
+                                 });
+  if (!alike)
+    return "";
+  if (first.label >= 0)
+    return " " + iRecords.names[static_cast<std::size_t>(first.label)];
+  if (first.firstDof <= 0)
+    return "";
+  return first.lastDof > first.firstDof ? fmt::format(" {}-{}", first.firstDof, first.lastDof)
+                                        : fmt::format(" {}", first.firstDof);
+}
+
 std::string Capitalised(std::string iText)
 {
   iText[0] = static_cast<char>(iText[0] - 'a' + 'A');
@@ -72,7 +93,7 @@ bool ActsOnNodes(const AppliedCard& iCard)
 
 std::string AliasOf(const AppliedCard& iCard, const NeutralModel& iRecords)
 {
-  return iCard.keyword + TargetsOf(iCard, iRecords) + InStep(iCard.step);
+  return iCard.keyword + WhatOf(iCard, iRecords) + TargetsOf(iCard, iRecords) + InStep(iCard.step);
 }
 
 std::string AliasOf(const Section& iSection)

@@ -2,6 +2,7 @@
 #include "voxbench/report/InfoReport.h"
 #include "voxbench/report/TextTable.h"
 
+#include <cmath>
 #include <fmt/format.h>
 
 namespace voxbench
@@ -20,6 +21,14 @@ std::string Size(std::uint64_t iBytes)
   if (iBytes < 1000000)
     return fmt::format("{:.1f} kB", size / 1e3);
   return iBytes < 1000000000 ? fmt::format("{:.1f} MB", size / 1e6) : fmt::format("{:.2f} GB", size / 1e9);
+}
+
+//! "-5 to 10"; what is nothing but rounding beside the extent reads as 0.
+std::string Range(double iFrom, double iTo)
+{
+  const double noise = 1e-12 * (iTo - iFrom);
+  const auto rounded = [noise](double iValue) { return std::abs(iValue) < noise ? 0. : iValue; };
+  return fmt::format("{:.6g} to {:.6g}", rounded(iFrom), rounded(iTo));
 }
 
 std::string At(const Place& iPlace)
@@ -62,8 +71,8 @@ void PrintHead(Output& ioOutput, const InfoResult& iResult)
   {
     const auto& low = iResult.box->minimum;
     const auto& high = iResult.box->maximum;
-    table.Add({"Bounding box", fmt::format("x {:.6g} to {:.6g}, y {:.6g} to {:.6g}, z {:.6g} to {:.6g}", low[0],
-                                           high[0], low[1], high[1], low[2], high[2])});
+    table.Add({"Bounding box", fmt::format("x {}, y {}, z {}", Range(low[0], high[0]), Range(low[1], high[1]),
+                                           Range(low[2], high[2]))});
   }
   table.Add({"Sets", Counted(iResult.nodeSets, "node set", "node sets") + ", " +
                          Counted(iResult.elementSets, "element set", "element sets")});
