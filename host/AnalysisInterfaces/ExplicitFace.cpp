@@ -27,11 +27,11 @@ public:
     const VOXAnalysisExplicitModel* const model = My().ExplicitModel();
     if (Faults::Enter("VOXISamExplicit::GetExplicitParent") || model == nullptr)
       return E_FAIL;
-    const std::vector<std::int32_t> tags = My().ExplicitTags();
-    if (tags.empty())
+    const std::int32_t tag = My().FirstExplicitTag();
+    if (tag == 0)
       oParent = NULL_exp;
     else
-      oParent.LinkWithTag(tags.front(), model);
+      oParent.LinkWithTag(tag, model);
     return S_OK;
   }
 

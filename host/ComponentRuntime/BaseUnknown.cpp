@@ -41,12 +41,10 @@ VOXBaseUnknown* VOXComponentRuntime::ExistingFace(const VOXBaseUnknown* iCompone
   const VOXBaseUnknown* const root = iComponent == nullptr ? nullptr : iComponent->GetImpl();
   if (root == nullptr || root->_Record == nullptr)
     return nullptr;
-  const voxhost::Face* const face = root->_Record->table->Find(iInterface);
-  if (face == nullptr)
-    return nullptr;
-  if (face->place < 0)
+  const int place = root->_Record->table->PlaceOf(iInterface);
+  if (place == voxhost::FaceTable::kRoot)
     return const_cast<VOXBaseUnknown*>(root);
-  return root->_Record->faces == nullptr ? nullptr : root->_Record->faces[face->place];
+  return place < 0 || root->_Record->faces == nullptr ? nullptr : root->_Record->faces[place];
 }
 
 unsigned long VOXComponentRuntime::References(const VOXBaseUnknown* iObject)
@@ -56,21 +54,17 @@ unsigned long VOXComponentRuntime::References(const VOXBaseUnknown* iObject)
 
 HRESULT VOXComponentRuntime::Query(VOXBaseUnknown* iRoot, const IID& iInterface, void** oFace)
 {
-  VOXBaseUnknown* face = nullptr;
   VOXComponentRecord* const record = iRoot->_Record;
-  const voxhost::Face* const declared =
-      record == nullptr || record->closing ? nullptr : record->table->Find(iInterface);
-  if (declared != nullptr)
+  const int place = record == nullptr || record->closing ? static_cast<int>(voxhost::FaceTable::kNone)
+                                                         : record->table->PlaceOf(iInterface);
+  VOXBaseUnknown* face = nullptr;
+  if (place >= 0)
   {
-    face = iRoot;
-    if (declared->place >= 0)
-    {
-      face = record->faces == nullptr ? nullptr : record->faces[declared->place];
-      if (face == nullptr)
-        face = MakeFace(iRoot, declared->place);
-    }
+    face = record->faces == nullptr ? nullptr : record->faces[place];
+    if (face == nullptr)
+      face = MakeFace(iRoot, place);
   }
-  else if (iInterface == IID_VOXBaseUnknown)
+  else if (place == voxhost::FaceTable::kRoot || iInterface == IID_VOXBaseUnknown)
     face = iRoot;
   if (face == nullptr)
     return E_NOINTERFACE;
@@ -170,7 +164,10 @@ HRESULT VOXBaseUnknown::GetTypeInfo(unsigned int, unsigned long, VOXTypeInfo** o
   return E_NOTIMPL;
 }
 
-HRESULT VOXBaseUnknown::GetIDsOfNames(const IID&, wchar_t**, unsigned int, unsigned long, long*) { return E_NOTIMPL; }
+HRESULT VOXBaseUnknown::GetIDsOfNames(const IID&, wchar_t**, unsigned int, unsigned long, long*)
+{
+  return E_NOTIMPL;
+}
 
 HRESULT VOXBaseUnknown::Invoke(long, const IID&, unsigned long, unsigned short, VOXDispatchParameters*)
 {
@@ -182,8 +179,7 @@ VOXBaseUnknown* VOXBaseUnknown::QueryInterface(const char* iInterfaceName) const
   if (Faults::Enter("VOXBaseUnknown::QueryInterface"))
     return nullptr;
   VOXBaseUnknown* const root = GetImpl();
-  const voxhost::Face* const face =
-      root->_Record == nullptr ? nullptr : root->_Record->table->Find(iInterfaceName);
+  const voxhost::Face* const face = root->_Record == nullptr ? nullptr : root->_Record->table->Find(iInterfaceName);
   void* answer = nullptr;
   if (face != nullptr)
     VOXComponentRuntime::Query(root, face->interfaceId, &answer);
@@ -192,9 +188,15 @@ VOXBaseUnknown* VOXBaseUnknown::QueryInterface(const char* iInterfaceName) const
 
 VOXBaseUnknown::~VOXBaseUnknown() = default;
 
-VOXMetaClass* VOXBaseUnknown::GetMetaObject() const { return _Record != nullptr ? _Record->type->Meta() : MetaObject(); }
+VOXMetaClass* VOXBaseUnknown::GetMetaObject() const
+{
+  return _Record != nullptr ? _Record->type->Meta() : MetaObject();
+}
 
-const char* VOXBaseUnknown::IsA() const { return GetMetaObject()->IsA(); }
+const char* VOXBaseUnknown::IsA() const
+{
+  return GetMetaObject()->IsA();
+}
 
 int VOXBaseUnknown::IsAKindOf(const char* iName) const
 {
@@ -213,7 +215,10 @@ VOXBaseUnknown* VOXBaseUnknown::SetImpl(VOXBaseUnknown* iImplementation)
   return previous;
 }
 
-int VOXBaseUnknown::IsNull() const { return 0; }
+int VOXBaseUnknown::IsNull() const
+{
+  return 0;
+}
 
 int VOXBaseUnknown::IsEqual(const VOXBaseUnknown* iOther) const
 {
@@ -229,14 +234,20 @@ VOXBaseUnknown::VOXBaseUnknown() : _Implementation(nullptr), _Record(nullptr), _
 
 VOXBaseUnknown::VOXBaseUnknown(const VOXBaseUnknown&) : VOXBaseUnknown() {}
 
-VOXBaseUnknown& VOXBaseUnknown::operator=(const VOXBaseUnknown&) { return *this; }
+VOXBaseUnknown& VOXBaseUnknown::operator=(const VOXBaseUnknown&)
+{
+  return *this;
+}
 
 void* VOXBaseUnknown::operator new(std::size_t iSize) noexcept
 {
   return Faults::Enter("VOXBaseUnknown::operator new") ? nullptr : ::operator new(iSize, std::nothrow);
 }
 
-void VOXBaseUnknown::operator delete(void* iMemory) { ::operator delete(iMemory); }
+void VOXBaseUnknown::operator delete(void* iMemory)
+{
+  ::operator delete(iMemory);
+}
 
 VOXMetaClass* VOXBaseUnknown::MetaObject()
 {
@@ -246,9 +257,15 @@ VOXMetaClass* VOXBaseUnknown::MetaObject()
   return meta;
 }
 
-const IID& VOXBaseUnknown::ClassId() { return IID_VOXBaseUnknown; }
+const IID& VOXBaseUnknown::ClassId()
+{
+  return IID_VOXBaseUnknown;
+}
 
-const char* VOXBaseUnknown::ClassName() { return "VOXBaseUnknown"; }
+const char* VOXBaseUnknown::ClassName()
+{
+  return "VOXBaseUnknown";
+}
 
 namespace voxhost
 {

@@ -35,7 +35,8 @@ public:
 
 private:
   friend class VOXBaseUnknown;
-  friend VOXMetaClass* fct_RetrieveMetaObject(const char*, ENUMTypeOfClass, VOXMetaClass*, const char*, const char*, int);
+  friend VOXMetaClass* fct_RetrieveMetaObject(const char*, ENUMTypeOfClass, VOXMetaClass*, const char*, const char*,
+                                              int);
   friend class voxhost::LateType;
 
   static HRESULT Query(VOXBaseUnknown* iRoot, const IID& iInterface, void** oFace);

@@ -26,43 +26,38 @@ std::unique_ptr<FaceTable> FaceTable::Build(std::vector<Face> iFaces)
   auto table = std::make_unique<FaceTable>();
   table->faces = std::move(iFaces);
   for (Face& face : table->faces)
-    face.place = face.factory == nullptr ? -1 : table->extensions++;
+    face.place = face.factory == nullptr ? kRoot : table->extensions++;
   int bits = 3;
   while ((std::size_t{1} << bits) < 2 * table->faces.size())
     ++bits;
-  for (std::uint32_t multiplier = 0x9E3779B1u;; multiplier += 0x3C6EF372u)
+  for (std::uint32_t attempt = 1, multiplier = 0x9E3779B1u;; ++attempt, multiplier += 0x3C6EF372u)
   {
-    table->slots.assign(std::size_t{1} << bits, -1);
-    table->shift = 32 - bits;
-    if (table->Place(multiplier))
+    table->_Slots.assign(std::size_t{1} << bits, Slot());
+    table->_Shift = 32 - bits;
+    if (table->Fill(multiplier))
       return table;
-    if (multiplier % 64 == 1) // no luck for a while: a larger table is easier to fill without collisions
+    if (attempt % 64 == 0) // no luck for a while: a larger table is easier to fill without collisions
       ++bits;
   }
 }
 
-bool FaceTable::Place(std::uint32_t iMultiplier)
+bool FaceTable::Fill(std::uint32_t iMultiplier)
 {
-  multiplier = iMultiplier | 1u;
-  for (std::size_t i = 0; i < faces.size(); ++i)
+  _Multiplier = iMultiplier | 1u;
+  for (const Face& face : faces)
   {
-    int& slot = slots[(faces[i].interfaceId.Data1 * multiplier) >> shift];
-    if (slot >= 0)
+    Slot& slot = _Slots[(face.interfaceId.Data1 * _Multiplier) >> _Shift];
+    if (slot.place != kNone)
       return false;
-    slot = static_cast<int>(i);
+    slot = {face.interfaceId, face.place};
   }
   return true;
 }
 
 const Face* FaceTable::Find(const char* iInterfaceName) const
 {
-  if (iInterfaceName == nullptr)
-    return nullptr;
-  const Face* const guess = Find(VOXGuidOfName(iInterfaceName));
-  if (guess != nullptr && guess->interfaceName == iInterfaceName)
-    return guess;
-  for (const Face& face : faces) // an interface whose identifier was not made from its name
-    if (face.interfaceName == iInterfaceName)
+  for (const Face& face : faces)
+    if (iInterfaceName != nullptr && face.interfaceName == iInterfaceName)
       return &face;
   return nullptr;
 }
@@ -155,7 +150,10 @@ HRESULT DeclareOwnInterface(const char* iLateType, const IID& iInterface, const 
   return type->DeclareFace(iInterface, iInterfaceName, nullptr);
 }
 
-bool IsLateType(const char* iLateType) { return LateType::Find(iLateType) != nullptr; }
+bool IsLateType(const char* iLateType)
+{
+  return LateType::Find(iLateType) != nullptr;
+}
 
 bool LateTypeDerivesFrom(const char* iLateType, const char* iBase)
 {

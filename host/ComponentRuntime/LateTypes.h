@@ -4,6 +4,7 @@
 #include "ComponentRuntime/VOXMetaClass.h"
 #include "host/ComponentRuntime/Component.h"
 
+#include <cstring>
 #include <deque>
 #include <memory>
 #include <string>
@@ -25,25 +26,35 @@ struct Face
 //! without collisions, so that a miss costs what a hit costs whatever the number of interfaces.
 struct FaceTable
 {
+  static constexpr int kNone = -2; //!< no such face
+  static constexpr int kRoot = -1; //!< the implementation object itself
+
   std::vector<Face> faces;
-  std::vector<int> slots; // index into faces, -1 where there is none; a power of two of them
-  std::uint32_t multiplier = 1;
-  int shift = 0;
   int extensions = 0; // number of places
 
   static std::unique_ptr<FaceTable> Build(std::vector<Face> iFaces);
 
-  const Face* Find(const IID& iInterface) const
+  //! Where the object that carries an interface stands: its place among the extensions, kRoot or kNone.
+  int PlaceOf(const IID& iInterface) const
   {
-    const int index = slots[(iInterface.Data1 * multiplier) >> shift];
-    if (index < 0 || faces[static_cast<std::size_t>(index)].interfaceId != iInterface)
-      return nullptr;
-    return &faces[static_cast<std::size_t>(index)];
+    const Slot& slot = _Slots[(iInterface.Data1 * _Multiplier) >> _Shift];
+    return std::memcmp(&slot.interfaceId, &iInterface, sizeof(IID)) == 0 ? slot.place : kNone;
   }
+
   const Face* Find(const char* iInterfaceName) const;
 
 private:
-  bool Place(std::uint32_t iMultiplier);
+  struct Slot
+  {
+    IID interfaceId{};
+    int place = kNone;
+  };
+
+  bool Fill(std::uint32_t iMultiplier);
+
+  std::vector<Slot> _Slots; // a power of two of them
+  std::uint32_t _Multiplier = 1;
+  int _Shift = 0;
 };
 
 //! A late type: a name, a base, and who carries which interface.

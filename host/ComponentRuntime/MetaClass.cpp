@@ -37,9 +37,15 @@ VOXMetaClass::VOXMetaClass(VOXMetaClassData* iData) : _Data(iData) {}
 
 VOXMetaClass::~VOXMetaClass() = default;
 
-const IID& VOXMetaClass::GetClassId() const { return _Data->id; }
+const IID& VOXMetaClass::GetClassId() const
+{
+  return _Data->id;
+}
 
-const char* VOXMetaClass::IsA() const { return _Data->description.className.c_str(); }
+const char* VOXMetaClass::IsA() const
+{
+  return _Data->description.className.c_str();
+}
 
 int VOXMetaClass::IsAKindOf(const char* iName) const
 {
@@ -49,7 +55,10 @@ int VOXMetaClass::IsAKindOf(const char* iName) const
   return 0;
 }
 
-VOXMetaClass* VOXComponentRuntime::NewMetaClass(VOXMetaClassData* iData) { return new VOXMetaClass(iData); }
+VOXMetaClass* VOXComponentRuntime::NewMetaClass(VOXMetaClassData* iData)
+{
+  return new VOXMetaClass(iData);
+}
 
 VOXMetaClass* fct_RetrieveMetaObject(const char* iClassName, ENUMTypeOfClass iKind, VOXMetaClass* iBase,
                                      const char* iLateType, const char* iLibrary, int iObjectSize)
@@ -61,11 +70,11 @@ VOXMetaClass* fct_RetrieveMetaObject(const char* iClassName, ENUMTypeOfClass iKi
   const auto known = registry.classes.find(std::string_view(iClassName));
   if (known != registry.classes.end())
     return known->second.first;
-  auto* const data = new VOXMetaClassData{{iClassName, iKind, iBase != nullptr ? iBase->IsA() : "",
-                                           iLateType != nullptr ? iLateType : "", iLibrary != nullptr ? iLibrary : "",
-                                           iObjectSize},
-                                          VOXGuidOfName(iClassName),
-                                          iBase};
+  auto* const data =
+      new VOXMetaClassData{{iClassName, iKind, iBase != nullptr ? iBase->IsA() : "",
+                            iLateType != nullptr ? iLateType : "", iLibrary != nullptr ? iLibrary : "", iObjectSize},
+                           VOXGuidOfName(iClassName),
+                           iBase};
   VOXMetaClass* const meta = VOXComponentRuntime::NewMetaClass(data);
   registry.classes.emplace(iClassName, std::make_pair(meta, data));
   return meta;
@@ -80,6 +89,9 @@ const MetaClassDescription* FindMetaClass(const char* iClassName)
   return known == AllClasses().classes.end() ? nullptr : &known->second.second->description;
 }
 
-int MetaClassRegistrations() { return AllClasses().calls; }
+int MetaClassRegistrations()
+{
+  return AllClasses().calls;
+}
 
 } // namespace voxhost

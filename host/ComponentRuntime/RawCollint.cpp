@@ -7,7 +7,8 @@
 #include <unordered_set>
 
 VOXRawCollint::VOXRawCollint(int iCapacity)
-    : _Values(iCapacity > 0 ? new int[static_cast<std::size_t>(iCapacity)] : nullptr), _Size(0),
+    : _Values(iCapacity > 0 ? new int[static_cast<std::size_t>(iCapacity)] : nullptr),
+      _Size(0),
       _Capacity(std::max(iCapacity, 0))
 {
 }
@@ -27,9 +28,15 @@ VOXRawCollint& VOXRawCollint::operator=(const VOXRawCollint& iOther)
   return *this;
 }
 
-VOXRawCollint::~VOXRawCollint() { delete[] _Values; }
+VOXRawCollint::~VOXRawCollint()
+{
+  delete[] _Values;
+}
 
-int VOXRawCollint::Size() const { return _Size; }
+int VOXRawCollint::Size() const
+{
+  return _Size;
+}
 
 int& VOXRawCollint::operator[](int iPosition)
 {
@@ -39,7 +46,10 @@ int& VOXRawCollint::operator[](int iPosition)
   return _Values[iPosition - 1];
 }
 
-int VOXRawCollint::operator[](int iPosition) const { return const_cast<VOXRawCollint&>(*this)[iPosition]; }
+int VOXRawCollint::operator[](int iPosition) const
+{
+  return const_cast<VOXRawCollint&>(*this)[iPosition];
+}
 
 void VOXRawCollint::Append(int iValue)
 {
@@ -67,13 +77,16 @@ void VOXRawCollint::Remove(const VOXRawCollint& iOther)
 {
   constexpr int kFew = 16; // below, looking along the list is quicker than building a set
   const std::unordered_set<int> unwanted(iOther._Values, iOther._Values + (iOther._Size > kFew ? iOther._Size : 0));
-  int* const end = std::remove_if(_Values, _Values + _Size, [&](int value) {
-    return unwanted.empty() ? iOther.Locate(value) != 0 : unwanted.count(value) != 0;
-  });
+  int* const end = std::remove_if(
+      _Values, _Values + _Size,
+      [&](int value) { return unwanted.empty() ? iOther.Locate(value) != 0 : unwanted.count(value) != 0; });
   _Size = static_cast<int>(end - _Values);
 }
 
-void VOXRawCollint::RemoveNulls() { _Size = static_cast<int>(std::remove(_Values, _Values + _Size, 0) - _Values); }
+void VOXRawCollint::RemoveNulls()
+{
+  _Size = static_cast<int>(std::remove(_Values, _Values + _Size, 0) - _Values);
+}
 
 void VOXRawCollint::RemoveAll(int iMode)
 {

@@ -51,11 +51,20 @@ struct VOXTextRep
 namespace
 {
 
-std::string_view ViewOf(VOXTextRep* iRep) { return iRep == nullptr ? std::string_view() : iRep->View(); }
+std::string_view ViewOf(VOXTextRep* iRep)
+{
+  return iRep == nullptr ? std::string_view() : iRep->View();
+}
 
-std::string_view ViewOf(const char* iText) { return iText == nullptr ? std::string_view() : std::string_view(iText); }
+std::string_view ViewOf(const char* iText)
+{
+  return iText == nullptr ? std::string_view() : std::string_view(iText);
+}
 
-const char* CharactersOf(VOXTextRep* iRep) { return iRep == nullptr ? "" : iRep->Characters(); }
+const char* CharactersOf(VOXTextRep* iRep)
+{
+  return iRep == nullptr ? "" : iRep->Characters();
+}
 
 void Assign(VOXTextRep*& ioRep, VOXTextRep* iNew)
 {
@@ -68,7 +77,10 @@ void Assign(VOXTextRep*& ioRep, VOXTextRep* iNew)
 
 VOXString::VOXString(const char* iText) : _Rep(VOXTextRep::Make(ViewOf(iText))) {}
 VOXString::VOXString(const VOXString& iOther) : _Rep(VOXTextRep::Share(iOther._Rep)) {}
-VOXString::~VOXString() { VOXTextRep::Drop(_Rep); }
+VOXString::~VOXString()
+{
+  VOXTextRep::Drop(_Rep);
+}
 
 VOXString& VOXString::operator=(const VOXString& iOther)
 {
@@ -81,14 +93,29 @@ bool VOXString::operator==(const VOXString& iOther) const
   return _Rep == iOther._Rep || ViewOf(_Rep) == ViewOf(iOther._Rep);
 }
 
-bool VOXString::operator==(const char* iOther) const { return ViewOf(_Rep) == ViewOf(iOther); }
-int VOXString::GetLength() const { return static_cast<int>(ViewOf(_Rep).size()); }
-VOXString::operator const char*() const { return CharactersOf(_Rep); }
-const char* VOXString::CastToCharPtr() const { return CharactersOf(_Rep); }
+bool VOXString::operator==(const char* iOther) const
+{
+  return ViewOf(_Rep) == ViewOf(iOther);
+}
+int VOXString::GetLength() const
+{
+  return static_cast<int>(ViewOf(_Rep).size());
+}
+VOXString::operator const char*() const
+{
+  return CharactersOf(_Rep);
+}
+const char* VOXString::CastToCharPtr() const
+{
+  return CharactersOf(_Rep);
+}
 
 VOXUnicodeString::VOXUnicodeString(const char* iText) : _Rep(VOXTextRep::Make(ViewOf(iText))) {}
 VOXUnicodeString::VOXUnicodeString(const VOXUnicodeString& iOther) : _Rep(VOXTextRep::Share(iOther._Rep)) {}
-VOXUnicodeString::~VOXUnicodeString() { VOXTextRep::Drop(_Rep); }
+VOXUnicodeString::~VOXUnicodeString()
+{
+  VOXTextRep::Drop(_Rep);
+}
 
 VOXUnicodeString& VOXUnicodeString::operator=(const VOXUnicodeString& iOther)
 {
@@ -107,7 +134,10 @@ bool VOXUnicodeString::operator==(const VOXUnicodeString& iOther) const
   return _Rep == iOther._Rep || ViewOf(_Rep) == ViewOf(iOther._Rep);
 }
 
-bool VOXUnicodeString::operator==(const char* iOther) const { return ViewOf(_Rep) == ViewOf(iOther); }
+bool VOXUnicodeString::operator==(const char* iOther) const
+{
+  return ViewOf(_Rep) == ViewOf(iOther);
+}
 
 VOXUnicodeString VOXUnicodeString::operator+(const VOXUnicodeString& iOther) const
 {
@@ -123,7 +153,10 @@ VOXUnicodeString VOXUnicodeString::operator+(const char* iOther) const
   return sum;
 }
 
-int VOXUnicodeString::GetLength() const { return static_cast<int>(ViewOf(_Rep).size()); }
+int VOXUnicodeString::GetLength() const
+{
+  return static_cast<int>(ViewOf(_Rep).size());
+}
 
 int VOXUnicodeString::SearchSubString(const VOXUnicodeString& iSub, int iFrom, int iMode) const
 {
@@ -149,6 +182,15 @@ void VOXUnicodeString::Resize(int iLength)
   Assign(_Rep, filled);
 }
 
-const char* VOXUnicodeString::ConvertToChar() const { return CharactersOf(_Rep); }
-const char* VOXUnicodeString::CastToCharPtr() const { return CharactersOf(_Rep); }
-VOXUnicodeString::operator const char*() const { return CharactersOf(_Rep); }
+const char* VOXUnicodeString::ConvertToChar() const
+{
+  return CharactersOf(_Rep);
+}
+const char* VOXUnicodeString::CastToCharPtr() const
+{
+  return CharactersOf(_Rep);
+}
+VOXUnicodeString::operator const char*() const
+{
+  return CharactersOf(_Rep);
+}

@@ -26,7 +26,9 @@ bool SameValue(const Value& iLeft, const Value& iRight)
 } // namespace voxhost
 
 template <class Value>
-VOXListVal<Value>::VOXListVal() : _Values(nullptr), _Size(0), _Capacity(0)
+VOXListVal<Value>::VOXListVal() : _Values(nullptr),
+                                  _Size(0),
+                                  _Capacity(0)
 {
 }
 

@@ -2,6 +2,7 @@
 #include "ExplicitModel/VOXAnalysisCharacCollector.h"
 #include "ExplicitModel/VOXAnalysisEntityCollector.h"
 #include "ExplicitModel/VOXAnalysisExplicitList.h"
+#include "host/ExplicitModel/CollectorData.h"
 #include "host/ExplicitModel/ExplicitModel.h"
 #include "host/ExplicitModel/ListKind.h"
 #include "host/Instruments/Faults.h"
@@ -225,10 +226,8 @@ HRESULT VOXAnalysisExplicitParent::FindEntityCollector(const VOXSamValue& iValue
     return S_OK;
   for (VOXAnalysisEntityCollector* const collector : record->entityCollectors)
   {
-    VOXSamValue value = VOXSamValueNone;
-    VOXString name;
-    collector->GetDefinition(value, name);
-    if (value == iValue && name == iName)
+    const VOXCollectorData& data = VOXExplicitAccess::DataOf(*collector);
+    if (data.value == iValue && data.name == iName)
       oCollector = collector;
   }
   return S_OK;

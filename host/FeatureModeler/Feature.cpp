@@ -160,7 +160,7 @@ Feature* Feature::NearestWith(FeatureFaces iFace) const
 
 std::vector<std::int32_t> Feature::ExplicitTags() const
 {
-  const StoredValue* const value = Find(IndexOf("ExplicitTag"));
+  const StoredValue* const value = Find(_Type->TagAttribute());
   std::vector<std::int32_t> tags;
   if (value == nullptr)
     return tags;
@@ -170,6 +170,20 @@ std::vector<std::int32_t> Feature::ExplicitTags() const
     tags = **list;
   std::erase(tags, 0);
   return tags;
+}
+
+std::int32_t Feature::FirstExplicitTag() const
+{
+  const StoredValue* const value = Find(_Type->TagAttribute());
+  if (value == nullptr)
+    return 0;
+  if (const auto* const single = std::get_if<std::int32_t>(value))
+    return *single;
+  const auto* const list = std::get_if<StoredList<std::int32_t>>(value);
+  if (list == nullptr || *list == nullptr)
+    return 0;
+  const auto first = std::find_if((*list)->begin(), (*list)->end(), [](std::int32_t tag) { return tag != 0; });
+  return first == (*list)->end() ? 0 : *first;
 }
 
 void Feature::Changed()

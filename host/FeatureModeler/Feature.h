@@ -144,6 +144,9 @@ public:
   //! Tags in "ExplicitTag": none, one, or a list. A tag of 0 is none.
   std::vector<std::int32_t> ExplicitTags() const;
 
+  //! The first of them; 0 when there is none.
+  std::int32_t FirstExplicitTag() const;
+
   // VOXISpecObject
   int IsSubTypeOf(const VOXUnicodeString& iType) const override;
   unsigned char IsUpToDate(const VOXIDomain_var& iDomain) const override;

@@ -129,6 +129,7 @@ std::string TypeCatalogue::Declare(const TypeDeclaration& iDeclaration)
     return "the late type '" + iDeclaration.name + "' stands with another base than '" + baseName + "'";
   for (std::size_t i = 0; i < type->_Attributes.size(); ++i)
     type->_Indices.emplace(type->_Attributes[i].name, static_cast<int>(i));
+  type->_TagAttribute = type->IndexOf("ExplicitTag");
   _ByName.emplace(type->_Name, type.get());
   _Types.push_back(std::move(type));
   return {};

@@ -113,6 +113,9 @@ public:
   //! Index of an attribute; -1 when the type has none of that name.
   int IndexOf(std::string_view iAttribute) const;
 
+  //! Index of "ExplicitTag", which is asked for at every step into the explicit model; -1 when the type has none.
+  int TagAttribute() const { return _TagAttribute; }
+
   //! Whether the type is iType, derives from it, or was declared to be of that kind too.
   bool IsSubTypeOf(std::string_view iType) const;
 
@@ -126,6 +129,7 @@ private:
   std::vector<Attribute> _Attributes;
   std::unordered_map<std::string_view, int> _Indices; // names stand in _Attributes
   std::vector<std::string> _AlsoKindOf;
+  int _TagAttribute = -1;
   bool _IsAbstract = false;
   std::optional<ParameterDeclaration> _Parameter;
 };
