@@ -64,6 +64,13 @@ TEST(Program, NoLineOfAnyHelpIsWiderThanAnOrdinaryWindow)
   }
 }
 
+TEST(Program, HelpMayBeAskedAsASubcommand)
+{
+  EXPECT_EQ(RunInProcess({"help"}).out, RunInProcess({"--help"}).out);
+  EXPECT_EQ(RunInProcess({"help", "tree"}).out, RunInProcess({"tree", "--help"}).out);
+  EXPECT_EQ(RunInProcess({"help", "wobble"}).code, 2);
+}
+
 TEST(Program, TellsItsVersion)
 {
   const auto run = RunBuiltProgram({"--version"});

@@ -3,11 +3,28 @@
 #include "voxbench/commands/GroupContent.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cctype>
 #include <fmt/format.h>
 #include <fnmatch.h>
 
 namespace voxbench
 {
+namespace
+{
+
+//! A kind in any case as its keyword.
+std::string Keyword(std::string iText)
+{
+  std::transform(iText.begin(), iText.end(), iText.begin(),
+                 [](unsigned char iLetter) { return std::toupper(iLetter); });
+  for (const GroupKind* const kind : kGroupKinds)
+    if (iText == kind->keyword)
+      return iText;
+  throw CLI::ValidationError("needs NODE, EDGE, FACE or ELEMENT, not " + iText);
+}
+
+} // namespace
 
 CommandDescription GroupsCommand::Describe() const
 {
@@ -28,13 +45,9 @@ CommandDescription GroupsCommand::Describe() const
 
 void GroupsCommand::DeclareOptions(CLI::App& ioParser)
 {
-  std::vector<std::string> keywords;
-  for (const GroupKind* const kind : kGroupKinds)
-    keywords.emplace_back(kind->keyword);
   _File.Declare(ioParser);
   ioParser.add_option("--kind", _Kind, "Only groups of NODE, EDGE, FACE or ELEMENT")
-      ->type_name("KIND")
-      ->transform(CLI::IsMember(keywords, CLI::ignore_case))
+      ->transform(Keyword, "", "")
       ->option_text("KIND");
   ioParser.add_option("--name", _Name, "Only groups of that name; * and ? stand for any text and any character")
       ->option_text("NAME");

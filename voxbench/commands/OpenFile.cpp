@@ -21,7 +21,9 @@ int Unreadable(const ReadOutcome& iOutcome, Console& ioConsole)
 
 void FileOptions::Declare(CLI::App& ioParser)
 {
-  ioParser.add_option("FILE", file, "The model: a keyword deck (.inp), plain or compressed (.inp.gz)")->required();
+  ioParser.add_option("FILE", file, "The model: a keyword deck (.inp), plain or compressed (.inp.gz)")
+      ->required()
+      ->option_text(" ");
   ioParser.add_flag("--json", json, "Print one JSON object instead of text");
 }
 

@@ -100,6 +100,12 @@ std::string NamesOf(const Program& iProgram)
 
 int RunProgram(const std::vector<std::string>& iArguments, Console& ioConsole)
 {
+  if (!iArguments.empty() && iArguments.front() == "help") // as people type it: help, help groups
+  {
+    std::vector<std::string> asked(iArguments.begin() + 1, iArguments.end());
+    asked.push_back("--help");
+    return RunProgram(asked, ioConsole);
+  }
   Program program;
   if (iArguments.empty())
   {

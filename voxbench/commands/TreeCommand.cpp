@@ -52,7 +52,14 @@ void TreeCommand::DeclareOptions(CLI::App& ioParser)
 {
   _File.Declare(ioParser);
   ioParser.add_option("--depth", _Depth, "Show N levels below the analysis model")
-      ->check(CLI::NonNegativeNumber)
+      ->check(
+          [](const std::string& iText)
+          {
+            const bool isCount =
+                !iText.empty() && iText.size() < 10 && iText.find_first_not_of("0123456789") == std::string::npos;
+            return isCount ? "" : "needs a whole number from 0 on, not " + iText;
+          },
+          "", "")
       ->option_text("N");
 }
 
