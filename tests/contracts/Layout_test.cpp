@@ -55,7 +55,8 @@ namespace
 // A member of a deriving class stands behind the base's 32 bytes, not in any padding of theirs.
 class OneByteMore : public VOXBaseUnknown
 {
-  char _Byte = 0;
+public:
+  char byte = 0;
 };
 static_assert(sizeof(VOXBaseUnknown) == 32);
 static_assert(sizeof(OneByteMore) == 40);
