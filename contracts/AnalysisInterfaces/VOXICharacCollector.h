@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ComponentRuntime/VOXTie.h"
 #include "ComponentRuntime/VOXHandle.h"
+#include "ComponentRuntime/VOXTie.h"
 #include "ExplicitModel/VOXAnalysisCharacCollector.h"
 
 inline constexpr IID IID_VOXICharacCollector = VOXGuidOfName("VOXICharacCollector");
@@ -33,8 +33,8 @@ class VOX_HOST_API VOXICharacCollector : public VOXBaseUnknown
 
   //! 5. The collector of a definition, filled. @param oCollector preset to null; on S_OK borrowed, null when the feature
   //! has no such values. @return S_OK; a failure.
-  virtual HRESULT GetCharacCollector(int iPhysicalType, const VOXSamCharacVersion& iVersion,
-                                     const VOXString& iPosition, const VOXAnalysisCharacCollector*& oCollector) = 0;
+  virtual HRESULT GetCharacCollector(int iPhysicalType, const VOXSamCharacVersion& iVersion, const VOXString& iPosition,
+                                     const VOXAnalysisCharacCollector*& oCollector) = 0;
 
   //! 6. The collectors that stand now. @param oNb their number. @param oCollectors borrowed array, valid until the next
   //! call. @return S_OK; a failure.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ComponentRuntime/VOXTie.h"
 #include "ComponentRuntime/VOXHandle.h"
+#include "ComponentRuntime/VOXTie.h"
 #include "ExplicitModel/VOXAnalysisExplicitList.h"
 
 inline constexpr IID IID_VOXIExpressionCollector = VOXGuidOfName("VOXIExpressionCollector");

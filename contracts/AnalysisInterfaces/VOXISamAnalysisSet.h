@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "FeatureModeler/VOXListValVOXISpecObject_var.h"
 #include "ComponentRuntime/VOXListValVOXBaseUnknown_var.h"
+#include "FeatureModeler/VOXListValVOXISpecObject_var.h"
 
 inline constexpr IID IID_VOXISamAnalysisSet = VOXGuidOfName("VOXISamAnalysisSet");
 

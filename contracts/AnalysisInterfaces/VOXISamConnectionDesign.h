@@ -39,8 +39,7 @@ public:
   {
     return this->Tied()->GetConnectedSupports(ioSupports1, ioSupports2);
   }
-  HRESULT GetConnectionDesigners(VOXListValVOXBaseUnknown_var& ioSupports1,
-                                 VOXListValVOXISpecObject_var*& opDesigners1,
+  HRESULT GetConnectionDesigners(VOXListValVOXBaseUnknown_var& ioSupports1, VOXListValVOXISpecObject_var*& opDesigners1,
                                  VOXListValVOXBaseUnknown_var& ioSupports2,
                                  VOXListValVOXISpecObject_var*& opDesigners2) override
   {

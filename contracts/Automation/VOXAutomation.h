@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ComponentRuntime/VOXResult.h"
 #include "ComponentRuntime/VOXHostExport.h"
+#include "ComponentRuntime/VOXResult.h"
 
 #include <cstdint>
 

@@ -131,5 +131,11 @@ inline constexpr CLSID CLSID_VOXBaseUnknown = IID_VOXBaseUnknown;
 //! Gives an interface class its static name and identifier. Written first in every interface.
 #define VOX_INTERFACE(Name)                                                                                            \
 public:                                                                                                                \
-  static const char* ClassName() { return #Name; }                                                                     \
-  static const IID& ClassId() { return IID_##Name; }
+  static const char* ClassName()                                                                                       \
+  {                                                                                                                    \
+    return #Name;                                                                                                      \
+  }                                                                                                                    \
+  static const IID& ClassId()                                                                                          \
+  {                                                                                                                    \
+    return IID_##Name;                                                                                                 \
+  }

@@ -25,7 +25,10 @@ constexpr bool operator==(const GUID& iLeft, const GUID& iRight)
   return true;
 }
 
-constexpr bool operator!=(const GUID& iLeft, const GUID& iRight) { return !(iLeft == iRight); }
+constexpr bool operator!=(const GUID& iLeft, const GUID& iRight)
+{
+  return !(iLeft == iRight);
+}
 
 //! The identifier of a name: two 64-bit FNV-1a hashes of it, the second with another offset basis. Renaming an interface
 //! changes its identifier; nothing else does.
@@ -40,8 +43,10 @@ constexpr GUID VOXGuidOfName(const char* iName)
     high = (high ^ static_cast<std::uint8_t>(*c)) * prime;
     low = (low ^ static_cast<std::uint8_t>(*c)) * prime;
   }
-  GUID guid{static_cast<std::uint32_t>(high), static_cast<std::uint16_t>(high >> 32),
-            static_cast<std::uint16_t>(high >> 48), {}};
+  GUID guid{static_cast<std::uint32_t>(high),
+            static_cast<std::uint16_t>(high >> 32),
+            static_cast<std::uint16_t>(high >> 48),
+            {}};
   for (int i = 0; i < 8; ++i)
     guid.Data4[i] = static_cast<std::uint8_t>(low >> (8 * i));
   return guid;

@@ -14,5 +14,11 @@ constexpr HRESULT E_FAIL = static_cast<HRESULT>(0x80004005u);
 constexpr HRESULT E_OUTOFMEMORY = static_cast<HRESULT>(0x8007000Eu);
 constexpr HRESULT E_INVALIDARG = static_cast<HRESULT>(0x80070057u);
 
-constexpr bool SUCCEEDED(HRESULT iResult) { return iResult >= 0; }
-constexpr bool FAILED(HRESULT iResult) { return iResult < 0; }
+constexpr bool SUCCEEDED(HRESULT iResult)
+{
+  return iResult >= 0;
+}
+constexpr bool FAILED(HRESULT iResult)
+{
+  return iResult < 0;
+}

@@ -45,11 +45,13 @@ private:
 template <class Interface, class Tie>
 HRESULT VOXTieLateType(const char* iLateType)
 {
-  return VOXDeclareExtension(iLateType, Interface::ClassId(), Interface::ClassName(), []() -> VOXBaseUnknown* {
-    Tie* const tie = new Tie;
-    if (tie != nullptr && tie->IsComplete())
-      return static_cast<Interface*>(tie);
-    delete tie;
-    return nullptr;
-  });
+  return VOXDeclareExtension(iLateType, Interface::ClassId(), Interface::ClassName(),
+                             []() -> VOXBaseUnknown*
+                             {
+                               Tie* const tie = new Tie;
+                               if (tie != nullptr && tie->IsComplete())
+                                 return static_cast<Interface*>(tie);
+                               delete tie;
+                               return nullptr;
+                             });
 }

@@ -8,8 +8,9 @@
 class VOXSamCharacVersion
 {
 public:
-  std::int32_t _KindCode = 0;   //!< 0 static step, 1 time step, 2 vibration mode, 3 buckling mode, 4 frequency; 8 and more
-                                //!< are derived versions, which are never archived
+  std::int32_t _KindCode =
+      0; //!< 0 static step, 1 time step, 2 vibration mode, 3 buckling mode, 4 frequency; 8 and more
+         //!< are derived versions, which are never archived
   std::int32_t _Occurrence = 0; //!< number of the step or mode, from 1
   std::int32_t _Step = 0;       //!< number of the analysis step, from 1; 0 when it is not known
   unsigned char _Variant = 0;   //!< 1 selects the variant: the imaginary part of complex values

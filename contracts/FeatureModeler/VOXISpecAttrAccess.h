@@ -28,7 +28,8 @@ class VOX_HOST_API VOXISpecAttrAccess : public VOXBaseUnknown
   //! 3. The features that an attribute lists. @param iKey key of the attribute.
   //! @param iInterfaceName interface that the elements are asked for: an element without it is left as it is. Null: as
   //! they are. @return caller deletes; null when the attribute is no list of features or has never had a value.
-  virtual VOXListValVOXBaseUnknown_var* ListSpecObjects(const VOXISpecAttrKey* iKey, const char* iInterfaceName) const = 0;
+  virtual VOXListValVOXBaseUnknown_var* ListSpecObjects(const VOXISpecAttrKey* iKey,
+                                                        const char* iInterfaceName) const = 0;
 
   //! 4. to 8. Typed reads. @param iIndex 0 for a single value, from 1 for an element of a list.
   //! @return the value; 0, the empty text or null when the type, the index or the attribute is wrong.
@@ -52,8 +53,8 @@ class VOX_HOST_API VOXISpecAttrAccess : public VOXBaseUnknown
 
   //! 14. Adds a feature to a list. The list takes its own reference. @param iContext always null.
   //! @param iShared always false. @param iMode always 0. @return S_OK; E_FAIL when the attribute is no list of features.
-  virtual HRESULT AddSpecObject(const VOXISpecAttrKey* iKey, const VOXBaseUnknown_var& iObject, VOXBaseUnknown* iContext,
-                                bool iShared, int iMode) = 0;
+  virtual HRESULT AddSpecObject(const VOXISpecAttrKey* iKey, const VOXBaseUnknown_var& iObject,
+                                VOXBaseUnknown* iContext, bool iShared, int iMode) = 0;
 
   //! 15. Moves a feature of a list to a position; one past the end of the list moves it to the end.
   //! @return S_OK; E_FAIL when the list does not hold it or iPosition is less than 1.

@@ -11,9 +11,15 @@ int ErrorDepthHandler::_i_errincline_ = 0;
 int ErrorDepthHandler::_MustJump_ = 1;
 int ErrorDepthHandler::_SamDepth_ = 0;
 
-ErrorDepthHandler::ErrorDepthHandler() { ++_SamDepth_; }
+ErrorDepthHandler::ErrorDepthHandler()
+{
+  ++_SamDepth_;
+}
 
-ErrorDepthHandler::~ErrorDepthHandler() { --_SamDepth_; }
+ErrorDepthHandler::~ErrorDepthHandler()
+{
+  --_SamDepth_;
+}
 
 void VOXSamInstanciateError(VOXSamErrorType& ioKind, int iDepth, const char* iFile, int iLine, const char*, int,
                             const char* iText, int iNumber, int iSeverity)
@@ -44,9 +50,15 @@ ErrorState& State()
   return state;
 }
 
-const std::vector<ErrorReport>& ErrorLog::Reports() { return State().reports; }
+const std::vector<ErrorReport>& ErrorLog::Reports()
+{
+  return State().reports;
+}
 
-const std::vector<CheckReport>& ErrorLog::CheckFailures() { return State().checkFailures; }
+const std::vector<CheckReport>& ErrorLog::CheckFailures()
+{
+  return State().checkFailures;
+}
 
 void ErrorLog::Clear()
 {
@@ -54,9 +66,15 @@ void ErrorLog::Clear()
   State().checkFailures.clear();
 }
 
-void ErrorLog::SetResetsPendingError(bool iResets) { State().resetsPendingError = iResets; }
+void ErrorLog::SetResetsPendingError(bool iResets)
+{
+  State().resetsPendingError = iResets;
+}
 
-bool ErrorLog::ResetsPendingError() { return State().resetsPendingError; }
+bool ErrorLog::ResetsPendingError()
+{
+  return State().resetsPendingError;
+}
 
 void ErrorLog::SetFatalHandler(std::function<void(const CheckReport&)> iHandler)
 {

@@ -22,15 +22,30 @@ VOXTrace Tra_SAMTraceExpli("SAMTraceExpli");
 VOXTrace Tra_SAMTraceExpDbg("SAMTraceExpDbg");
 VOXTrace Tra_SAMTraceDebug("SAMTraceDebug");
 
-VOXTrace::VOXTrace(const char* iName) : _Data(new VOXTraceData) { _Data->name = iName; }
+VOXTrace::VOXTrace(const char* iName) : _Data(new VOXTraceData)
+{
+  _Data->name = iName;
+}
 
-VOXTrace::~VOXTrace() { delete _Data; }
+VOXTrace::~VOXTrace()
+{
+  delete _Data;
+}
 
-int VOXTrace::IsActive() { return _Data->active ? 1 : 0; }
+int VOXTrace::IsActive()
+{
+  return _Data->active ? 1 : 0;
+}
 
-int VOXTrace::TraPut(const char* iText) { return _Data->Put(iText, ""); }
+int VOXTrace::TraPut(const char* iText)
+{
+  return _Data->Put(iText, "");
+}
 
-int VOXTrace::TraPutLN(const char* iText) { return _Data->Put(iText, "\n"); }
+int VOXTrace::TraPutLN(const char* iText)
+{
+  return _Data->Put(iText, "\n");
+}
 
 int VOXTrace::TraPutLN(const char* iText, int iNumber)
 {
@@ -40,14 +55,32 @@ int VOXTrace::TraPutLN(const char* iText, int iNumber)
   return _Data->Put(iText, end);
 }
 
-void VOXTrace::SetOutputLevel(int iLevel) { _Data->level = iLevel; }
+void VOXTrace::SetOutputLevel(int iLevel)
+{
+  _Data->level = iLevel;
+}
 
-void VOXTraceAccess::SetActive(VOXTrace& ioTrace, bool iActive) { ioTrace._Data->active = iActive; }
+void VOXTraceAccess::SetActive(VOXTrace& ioTrace, bool iActive)
+{
+  ioTrace._Data->active = iActive;
+}
 
-std::string VOXTraceAccess::Text(const VOXTrace& iTrace) { return iTrace._Data->text; }
+std::string VOXTraceAccess::Text(const VOXTrace& iTrace)
+{
+  return iTrace._Data->text;
+}
 
-void VOXTraceAccess::Clear(VOXTrace& ioTrace) { ioTrace._Data->text.clear(); }
+void VOXTraceAccess::Clear(VOXTrace& ioTrace)
+{
+  ioTrace._Data->text.clear();
+}
 
-void VOXTraceAccess::KeepEverything(VOXTrace& ioTrace, bool iKeep) { ioTrace._Data->keepsEverything = iKeep; }
+void VOXTraceAccess::KeepEverything(VOXTrace& ioTrace, bool iKeep)
+{
+  ioTrace._Data->keepsEverything = iKeep;
+}
 
-int VOXTraceAccess::Level(const VOXTrace& iTrace) { return iTrace._Data->level; }
+int VOXTraceAccess::Level(const VOXTrace& iTrace)
+{
+  return iTrace._Data->level;
+}

@@ -42,10 +42,22 @@ any::any(const any& iOther) = default;
 any& any::operator=(const any& iOther) = default;
 any::~any() = default;
 
-VARTYPE any::GetKind() const { return _Value.vt; }
-std::int16_t any::AsShort() const { return _Value.vt == VT_I2 ? _Value.iVal : std::int16_t{0}; }
-std::int32_t any::AsLong() const { return _Value.vt == VT_I4 ? _Value.lVal : 0; }
-double any::AsDouble() const { return _Value.vt == VT_R8 ? _Value.dblVal : 0.; }
+VARTYPE any::GetKind() const
+{
+  return _Value.vt;
+}
+std::int16_t any::AsShort() const
+{
+  return _Value.vt == VT_I2 ? _Value.iVal : std::int16_t{0};
+}
+std::int32_t any::AsLong() const
+{
+  return _Value.vt == VT_I4 ? _Value.lVal : 0;
+}
+double any::AsDouble() const
+{
+  return _Value.vt == VT_R8 ? _Value.dblVal : 0.;
+}
 
 HRESULT ConvertAnyToVariant(const any& iValue, VARIANT& oVariant)
 {

@@ -25,9 +25,9 @@ using StoredList = std::unique_ptr<std::vector<Element>>;
 
 //! A value as a feature stores it, in 16 bytes. Features are borrowed: the document owns them, and takes them out of
 //! every attribute when it removes them.
-using StoredValue =
-    std::variant<double, unsigned char, std::int32_t, VOXUnicodeString, Feature*, StoredList<double>,
-                 StoredList<unsigned char>, StoredList<std::int32_t>, StoredList<VOXUnicodeString>, StoredList<Feature*>>;
+using StoredValue = std::variant<double, unsigned char, std::int32_t, VOXUnicodeString, Feature*, StoredList<double>,
+                                 StoredList<unsigned char>, StoredList<std::int32_t>, StoredList<VOXUnicodeString>,
+                                 StoredList<Feature*>>;
 
 static_assert(sizeof(StoredValue) == 16, "what a feature pays for one local value");
 

@@ -35,7 +35,7 @@ public:
   const FeatureType& Type() const { return *_Type; }
   Document* OwningDocument() const { return _Document; } //!< borrowed; null once removed
   Container* OwningContainer() const { return _Container; }
-  Feature* Father() const { return _Father; }             //!< feature that holds this one, borrowed; null for none
+  Feature* Father() const { return _Father; } //!< feature that holds this one, borrowed; null for none
   int HoldingAttribute() const { return _Father == nullptr ? -1 : _HoldingAttribute; }
   Feature* StartUp() const { return _StartUp; } //!< borrowed; null for a start-up
   bool IsStartUp() const { return Flag(kIsStartUp); }
@@ -197,10 +197,7 @@ private:
   ~Feature() override;
 
   bool Flag(Flags iFlag) const { return (_Flags & iFlag) != 0; }
-  void SetFlag(Flags iFlag, bool iOn)
-  {
-    _Flags = static_cast<std::uint16_t>(iOn ? _Flags | iFlag : _Flags & ~iFlag);
-  }
+  void SetFlag(Flags iFlag, bool iOn) { _Flags = static_cast<std::uint16_t>(iOn ? _Flags | iFlag : _Flags & ~iFlag); }
 
   const Attribute* Declared(int iAttribute) const;
   StoredValue* MutableLocal(int iAttribute);

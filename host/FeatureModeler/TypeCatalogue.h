@@ -19,14 +19,14 @@ namespace voxhost
 enum FeatureFaces : std::uint32_t
 {
   kNoFaces = 0,
-  kExplicitFace = 1,       //!< VOXISamExplicit
-  kEntityFace = 2,         //!< VOXISamAnalysisEntity
-  kSetFace = 4,            //!< VOXISamAnalysisSet
-  kBasicComponentFace = 8, //!< VOXISamBasicComponent
-  kSupportFace = 16,       //!< VOXISamAnalysisSupport
-  kMeshPartFilterFace = 32,//!< VOXISamMeshPartFilter
-  kModelFactoryFace = 64,  //!< VOXISamAnalysisModelFactory
-  kVisuGrouperFace = 128   //!< VOXIMSHVisuGrouper
+  kExplicitFace = 1,        //!< VOXISamExplicit
+  kEntityFace = 2,          //!< VOXISamAnalysisEntity
+  kSetFace = 4,             //!< VOXISamAnalysisSet
+  kBasicComponentFace = 8,  //!< VOXISamBasicComponent
+  kSupportFace = 16,        //!< VOXISamAnalysisSupport
+  kMeshPartFilterFace = 32, //!< VOXISamMeshPartFilter
+  kModelFactoryFace = 64,   //!< VOXISamAnalysisModelFactory
+  kVisuGrouperFace = 128    //!< VOXIMSHVisuGrouper
 };
 
 //! Default value of one attribute of a default component, over that of the component's type.
@@ -49,10 +49,10 @@ struct ComponentDeclaration
 struct AttributeDeclaration
 {
   std::string name;
-  int type = VOXSpecInteger;                        //!< VOXSpecAttrType
-  int elementType = 0;                              //!< of a list: type code of its elements
-  Value value{};                                    //!< default; none: the attribute has never had a value
-  std::vector<ComponentDeclaration> components{};   //!< of component attributes: what the start-up holds
+  int type = VOXSpecInteger;                      //!< VOXSpecAttrType
+  int elementType = 0;                            //!< of a list: type code of its elements
+  Value value{};                                  //!< default; none: the attribute has never had a value
+  std::vector<ComponentDeclaration> components{}; //!< of component attributes: what the start-up holds
 };
 
 //! Knowledge parameter that stands for the value of a basic component. Its value is kept in the attribute "Value" of the

@@ -60,9 +60,15 @@ void Faults::Listen(void (*iListener)(const char*))
   _Armed = iListener != nullptr || CurrentPlan().active;
 }
 
-int Faults::Calls() { return CurrentPlan().calls; }
+int Faults::Calls()
+{
+  return CurrentPlan().calls;
+}
 
-std::string Faults::LastFailed() { return CurrentPlan().lastFailed; }
+std::string Faults::LastFailed()
+{
+  return CurrentPlan().lastFailed;
+}
 
 bool Faults::Decide(const char* iOperation)
 {

@@ -84,9 +84,15 @@ void Ledger::TurnOn()
   _On = true;
 }
 
-void Ledger::TurnOff() { _On = false; }
+void Ledger::TurnOff()
+{
+  _On = false;
+}
 
-Ledger::Balance Ledger::Read() { return _Balance; }
+Ledger::Balance Ledger::Read()
+{
+  return _Balance;
+}
 
 void Ledger::NoteArray(const void* iArray)
 {

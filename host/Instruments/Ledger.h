@@ -20,13 +20,13 @@ class VOX_HOST_API Ledger
 public:
   struct Balance
   {
-    std::int64_t components = 0;     //!< implementation objects alive
-    std::int64_t extensions = 0;     //!< extension objects alive
-    std::int64_t collectors = 0;     //!< entity and charac collectors alive
-    std::int64_t archivers = 0;      //!< collector archivers alive
-    std::int64_t userLists = 0;      //!< lists that were created in explicit models and not deleted
-    std::int64_t references = 0;     //!< references given minus references returned, on components
-    std::int64_t arraysOut = 0;      //!< arrays handed out and not freed
+    std::int64_t components = 0; //!< implementation objects alive
+    std::int64_t extensions = 0; //!< extension objects alive
+    std::int64_t collectors = 0; //!< entity and charac collectors alive
+    std::int64_t archivers = 0;  //!< collector archivers alive
+    std::int64_t userLists = 0;  //!< lists that were created in explicit models and not deleted
+    std::int64_t references = 0; //!< references given minus references returned, on components
+    std::int64_t arraysOut = 0;  //!< arrays handed out and not freed
 
     bool operator==(const Balance&) const = default;
     Balance operator-(const Balance& iOther) const;

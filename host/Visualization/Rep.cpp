@@ -18,16 +18,25 @@ VOXRep::VOXRep() = default;
 
 VOXRep::~VOXRep() = default;
 
-int VOXRep::GetNumberOfChildren() const { return 0; }
+int VOXRep::GetNumberOfChildren() const
+{
+  return 0;
+}
 
 void* VOXRep::operator new(std::size_t iSize, const char*, void*, int) noexcept
 {
   return voxhost::Faults::Enter("VOXRep::operator new") ? nullptr : ::operator new(iSize, std::nothrow);
 }
 
-void VOXRep::operator delete(void* iMemory) { ::operator delete(iMemory); }
+void VOXRep::operator delete(void* iMemory)
+{
+  ::operator delete(iMemory);
+}
 
-void VOXRep::operator delete(void* iMemory, const char*, void*, int) noexcept { ::operator delete(iMemory); }
+void VOXRep::operator delete(void* iMemory, const char*, void*, int) noexcept
+{
+  ::operator delete(iMemory);
+}
 
 VOX3DBagRep::VOX3DBagRep() : _Data(new VOXBagData) {}
 
@@ -38,6 +47,12 @@ VOX3DBagRep::~VOX3DBagRep()
   delete _Data;
 }
 
-int VOX3DBagRep::GetNumberOfChildren() const { return static_cast<int>(_Data->children.size()); }
+int VOX3DBagRep::GetNumberOfChildren() const
+{
+  return static_cast<int>(_Data->children.size());
+}
 
-void VOX3DBagRep::AddChild(VOXRep* iChild) { _Data->children.push_back(iChild); }
+void VOX3DBagRep::AddChild(VOXRep* iChild)
+{
+  _Data->children.push_back(iChild);
+}
