@@ -78,10 +78,11 @@ int main()
   feature.Set("ExplicitTag", std::int32_t{tag});
   document.UpdateAll();
   const VOXISamGroup_var group(static_cast<VOXBaseUnknown*>(&feature));
-  const auto content = [&group]
+  const VOXString keyword("NODE");
+  const auto content = [&group, &keyword]
   {
     const VOXAnalysisEntityCollector* collector = nullptr;
-    group->GetContent(VOXSamValueNode, "NODE", collector);
+    group->GetContent(VOXSamValueNode, keyword, collector);
     if (collector != nullptr)
       collector->Release();
     return collector != nullptr;

@@ -173,7 +173,7 @@ void VOXExplicitAccess::Detach(VOXAnalysisCollectorRoot& ioCollector)
   if (data.attachedTo._Object == nullptr)
     return;
   // Looked up without asking whether it is deleted: a dying object lets go of its collectors this way.
-  Record& record = *Model(data.attachedTo)->RecordAt(*data.attachedTo._Object);
+  Record& record = *voxhost::ExplicitModel::RecordAt(*data.attachedTo._Object);
   std::erase(record.entityCollectors, data.entityCollector);
   std::erase(record.characCollectors, data.characCollector);
   Target(data.attachedTo, nullptr, nullptr);

@@ -301,11 +301,4 @@ int ExplicitModel::PhysicalTypeOf(const VOXSamModelDataRoot& iObject) const
   return iObject.Kind() == ObjectKind::Element ? _ElementType : RecordAt(iObject)->physicalType;
 }
 
-Record* ExplicitModel::RecordAt(const VOXSamModelDataRoot& iObject) const
-{
-  if (iObject.Kind() == ObjectKind::Node || iObject.Kind() == ObjectKind::Element)
-    return nullptr;
-  return _Records[iObject.place].get();
-}
-
 } // namespace voxhost

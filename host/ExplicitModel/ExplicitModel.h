@@ -72,7 +72,11 @@ public:
   VOXSamModelDataRoot* FindTag(int iTag) const;
   int TagOf(const VOXSamModelDataRoot& iObject) const;
   int PhysicalTypeOf(const VOXSamModelDataRoot& iObject) const;
-  Record* RecordAt(const VOXSamModelDataRoot& iObject) const; //!< null for nodes and elements
+  static Record* RecordAt(const VOXSamModelDataRoot& iObject) //!< null for nodes and elements
+  {
+    const bool isRecord = iObject.Kind() == ObjectKind::Record || iObject.Kind() == ObjectKind::UserList;
+    return isRecord ? reinterpret_cast<Record*>(const_cast<VOXSamModelDataRoot*>(&iObject)) : nullptr;
+  }
   Record& NewRecord(ObjectKind iKind);
   void Kill(Record& ioRecord);
   void Touch(Record& ioRecord);

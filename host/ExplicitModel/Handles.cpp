@@ -22,9 +22,8 @@ const VOXAnalysisExplicitData NULL_exp;
 VOXSamModelDataRoot* VOXExplicitAccess::Object(const VOXAnalysisExplicitData& iHandle)
 {
   VOXSamModelDataRoot* const object = iHandle._Object;
-  if (object == nullptr || object->Kind() == ObjectKind::Node || object->Kind() == ObjectKind::Element)
-    return object;
-  return Model(iHandle)->RecordAt(*object)->dead ? nullptr : object;
+  const Record* const record = object == nullptr ? nullptr : ExplicitModel::RecordAt(*object);
+  return record != nullptr && record->dead ? nullptr : object;
 }
 
 ExplicitModel* VOXExplicitAccess::Model(const VOXAnalysisExplicitData& iHandle)
@@ -41,7 +40,7 @@ void VOXExplicitAccess::Target(VOXAnalysisExplicitData& ioHandle, ExplicitModel*
 Record* VOXExplicitAccess::RecordOf(const VOXAnalysisExplicitData& iHandle)
 {
   const VOXSamModelDataRoot* const object = Object(iHandle);
-  return object == nullptr ? nullptr : Model(iHandle)->RecordAt(*object);
+  return object == nullptr ? nullptr : ExplicitModel::RecordAt(*object);
 }
 
 VOXAnalysisExplicitData::VOXAnalysisExplicitData() : _Model(nullptr), _Object(nullptr) {}
@@ -148,7 +147,7 @@ HRESULT VOXAnalysisExplicitChild::Delete()
   model->Kill(*record);
   for (VOXSamModelDataRoot* const object : children)
   {
-    Record* const child = model->RecordAt(*object);
+    Record* const child = ExplicitModel::RecordAt(*object);
     std::erase(child->parents, &record->head);
     if (child->parents.empty())
     {

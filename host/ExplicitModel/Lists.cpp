@@ -23,7 +23,7 @@ std::size_t CountOf(const VOXAnalysisExplicitData& iOwner, int iKind)
   if (object == nullptr || iKind == voxhost::kListNothing)
     return 0;
   const ExplicitModel& model = *VOXExplicitAccess::Model(iOwner);
-  const Record* const record = model.RecordAt(*object);
+  const Record* const record = ExplicitModel::RecordAt(*object);
   if (iKind == voxhost::kListParents)
     return record == nullptr ? 1 : record->parents.size(); // nodes and elements hang under the mesh
   if (record == nullptr)
@@ -37,7 +37,7 @@ VOXSamModelDataRoot* ItemOf(const VOXAnalysisExplicitData& iOwner, int iKind, st
 {
   const VOXSamModelDataRoot* const object = VOXExplicitAccess::Object(iOwner);
   const ExplicitModel& model = *VOXExplicitAccess::Model(iOwner);
-  const Record* const record = model.RecordAt(*object);
+  const Record* const record = ExplicitModel::RecordAt(*object);
   if (iKind == voxhost::kListParents)
     return record == nullptr ? model.MeshOwner() : record->parents[iPlace];
   if (iPlace < record->children.size())

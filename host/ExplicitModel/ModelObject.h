@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -77,7 +78,7 @@ struct AxisData
 //! Any object that is no node and no element.
 struct Record
 {
-  VOXSamModelDataRoot head{};
+  VOXSamModelDataRoot head{}; //!< first, so that the head's address is the record's
   int physicalType = VOXSamPhysicalTypeNone;
   int status = VOXSamStatusNone;
   bool dead = false;    //!< deleted: handles on it designate nothing, its tag links to nothing
@@ -95,5 +96,7 @@ struct Record
   std::vector<ExpressionData> expression; //!< none or one
   std::vector<AxisData> axis;             //!< none or one
 };
+
+static_assert(std::is_standard_layout_v<Record>, "a record is reached from its head");
 
 } // namespace voxhost

@@ -6,6 +6,7 @@
 #include "host/KnowledgeParameters/Parameter.h"
 
 #include <algorithm>
+#include <typeinfo>
 
 namespace voxhost
 {
@@ -28,7 +29,8 @@ Feature::~Feature()
 
 Feature* Feature::Of(const VOXBaseUnknown* iFace)
 {
-  return iFace == nullptr ? nullptr : dynamic_cast<Feature*>(iFace->GetImpl());
+  VOXBaseUnknown* const root = iFace == nullptr ? nullptr : iFace->GetImpl();
+  return root != nullptr && typeid(*root) == typeid(Feature) ? static_cast<Feature*>(root) : nullptr;
 }
 
 void Feature::SetName(const VOXUnicodeString& iName)
