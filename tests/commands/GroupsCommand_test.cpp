@@ -139,6 +139,38 @@ TEST(GroupsCommand, ANameThatNoGroupHasIsToldAndTheOutputStaysValid)
   EXPECT_THAT(run.errors, HasSubstr("no group named NOWHERE"));
 }
 
+TEST(GroupsCommand, ByMaterialGathersTheElementsOfItsSections)
+{
+  const json groups = GroupsOf({kDeck, "--by-material", "--ids"});
+  ASSERT_EQ(groups.size(), 1u);
+  EXPECT_EQ(groups[0], json::parse(R"({"name": "STEEL", "kind": "ELEMENT", "count": 4, "ids": [1, 2, 10, 11]})"));
+}
+
+TEST(GroupsCommand, AnElementOfTwoSectionsOfOneMaterialIsListedOnce)
+{
+  const std::string file = voxtest::TemporaryFile(
+      "shared.inp", "*NODE\n1, 0., 0., 0.\n2, 1., 0., 0.\n3, 0., 1., 0.\n4, 0., 0., 1.\n*ELEMENT, TYPE=C3D4\n"
+                    "7, 1, 2, 3, 4\n3, 4, 2, 3, 1\n*ELSET, ELSET=A\n7\n*ELSET, ELSET=B\n3, 7\n*MATERIAL, NAME=M\n"
+                    "*SOLID SECTION, ELSET=A, MATERIAL=M\n*SOLID SECTION, ELSET=B, MATERIAL=M\n");
+  EXPECT_EQ(GroupsOf({file, "--by-material", "--ids"})[0]["ids"], json({3, 7}));
+}
+
+TEST(GroupsCommand, AGroupThatASupportOfAMaterialFailsIsARowWithItsReason)
+{
+  voxhost::Faults::FailOperation("VOXAnalysisExplicitEntity::GetApplyTo", 2, false);
+  const auto run = voxtest::RunInProcess({"groups", kDeck, "--json", "--by-material"});
+  voxhost::Faults::Disarm();
+  EXPECT_EQ(run.code, 1);
+  EXPECT_EQ(json::parse(run.out)["groups"][0]["count"], nullptr);
+}
+
+TEST(GroupsCommand, AMaterialThatNoSectionUsesHasNoGroup)
+{
+  const auto run = voxtest::RunInProcess(
+      {"groups", voxtest::TemporaryFile("unused.inp", "*NODE\n1, 0., 0., 0.\n*MATERIAL, NAME=M\n"), "--by-material"});
+  EXPECT_EQ(run.out, "No groups.\n");
+}
+
 TEST(GroupsCommand, ADeckWithoutSetsHasNoGroups)
 {
   const auto run = voxtest::RunInProcess({"groups", voxtest::TemporaryFile("bare.inp", "*NODE\n1, 0., 0., 0.\n")});

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The entities that the cards of a file define: properties, masses, restraints, loads, modulations and sensors.
+// The entities that the cards of a file define: materials, properties, masses, restraints, loads, modulations and sensors.
 #include "voxbench/build/EntityNames.h"
 #include "voxbench/build/ModelBuilder.h"
 #include "voxbench/features/TypeNames.h"
@@ -64,6 +64,33 @@ void ModelBuilder::Finish(const Pair& iEntity, ApplyToUnion& ioTargets, const st
   _Model.SetApplyTo(iEntity.object, ioTargets.Take());
 }
 
+void ModelBuilder::BuildMaterials()
+{
+  const Pair materials = MakeSet("MaterialSet", "MATERIAL_SET", "Materials");
+  for (const Material& material : _Records.materials)
+  {
+    const Plan plan{kMaterialType, "MATERIAL", NextName("MATERIAL"), material.name};
+    _Materials.try_emplace(material.name, MakeEntity(materials, plan, "MATERIAL", 0).feature);
+  }
+}
+
+//! A composite shell has a material per layer; one that several layers share is referred to once.
+void ModelBuilder::ReferToMaterials(voxhost::Feature& ioProperty, const Section& iSection) const
+{
+  std::vector<std::string> names{iSection.material};
+  for (const Section::Layer& layer : iSection.layers)
+    names.push_back(layer.material);
+  std::vector<const voxhost::Feature*> referred;
+  for (const std::string& name : names)
+  {
+    const auto found = _Materials.find(name);
+    if (found == _Materials.end() || std::find(referred.begin(), referred.end(), found->second) != referred.end())
+      continue;
+    ioProperty.Add("Materials", *found->second);
+    referred.push_back(found->second);
+  }
+}
+
 void ModelBuilder::BuildProperties()
 {
   const Pair properties = MakeSet("PropertySet", "PROPERTY_SET", "Properties");
@@ -81,6 +108,8 @@ void ModelBuilder::BuildProperties()
       targets.Add(group->members);
       supports.push_back(group->feature);
     }
+    if (!isMass)
+      ReferToMaterials(*entity.feature, section);
     Finish(entity, targets, supports);
   }
 }

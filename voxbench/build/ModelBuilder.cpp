@@ -22,6 +22,7 @@ voxhost::Feature* ModelBuilder::Build()
   _Root = Make({}, {"AnalysisModel", "ANALYSIS_MODEL", "Analysis model", title});
   BuildMesh();
   BuildGroups();
+  BuildMaterials();
   BuildProperties();
   BuildRestraints();
   BuildLoads();

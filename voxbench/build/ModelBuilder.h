@@ -62,7 +62,9 @@ private:
   void BuildGroup(const char* iType, const GroupKind& iKind, const char* iDefinition, const std::string& iName,
                   voxhost::ApplyTo iMembers, NamedGroups& ioIndex);
   void BuildSurface(Surface& ioSurface);
+  void BuildMaterials();
   void BuildProperties();
+  void ReferToMaterials(voxhost::Feature& ioProperty, const Section& iSection) const;
   void BuildRestraints();
   void BuildLoads();
   void BuildApplied(const Pair& iSet, const char* iType, const char* iPhysicalType, const AppliedCard& iCard);
@@ -81,6 +83,7 @@ private:
   Pair _Root;
   Pair _Mesh;
   Pair _GroupSet;
+  std::unordered_map<std::string, voxhost::Feature*> _Materials;
   NamedGroups _NodeGroups;
   NamedGroups _ElementGroups;
   NamedGroups _Surfaces;

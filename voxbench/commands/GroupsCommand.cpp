@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/GroupsCommand.h"
+#include "voxbench/build/MaterialGroups.h"
 #include "voxbench/commands/GroupContent.h"
 
 #include <CLI/CLI.hpp>
@@ -36,6 +37,7 @@ CommandDescription GroupsCommand::Describe() const
           {{"voxbench groups bracket.inp", "name, kind and number of entities of each group"},
            {"voxbench groups bracket.inp --kind NODE", "only the groups of nodes"},
            {"voxbench groups bracket.inp --name 'BOLT*' --ids", "the entities of all groups whose name begins so"},
+           {"voxbench groups bracket.inp --by-material", "the elements made of each material"},
            {"voxbench groups bracket.inp --ids --json", "everything, as one JSON object"}},
           {{kExitDone, "all groups were listed"},
            {kExitSomeFailed, "some group failed, none has the NAME given, or the output cannot be written"},
@@ -51,6 +53,7 @@ void GroupsCommand::DeclareOptions(CLI::App& ioParser)
       ->option_text("KIND");
   ioParser.add_option("--name", _Name, "Only groups of that name; * and ? stand for any text and any character")
       ->option_text("NAME");
+  ioParser.add_flag("--by-material", _ByMaterial, "List a group per material instead: the elements made of it");
   ioParser.add_flag("--ids", _ListEntities, "List the entities; of an edge or face its element and side");
 }
 
@@ -64,7 +67,7 @@ int GroupsCommand::Run(Console& ioConsole)
   const auto report =
       _File.json ? GroupsReport::Json(output, _ListEntities) : GroupsReport::Text(output, _ListEntities);
   bool someWanted = false;
-  for (voxhost::Feature* const group : model.Groups())
+  for (voxhost::Feature* const group : _ByMaterial ? MakeMaterialGroups(model) : model.Groups())
   {
     const std::string name = LoadedModel::DisplayName(*group);
     if (!IsWanted(name))

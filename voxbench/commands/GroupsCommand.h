@@ -24,6 +24,7 @@ private:
   FileOptions _File;
   std::string _Kind; //!< "" for all
   std::string _Name; //!< "" for all
+  bool _ByMaterial = false;
   bool _ListEntities = false;
   bool _SomeFailed = false;
 };

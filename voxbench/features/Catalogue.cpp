@@ -2,6 +2,7 @@
 #include "voxbench/features/Catalogue.h"
 #include "ComponentRuntime/VOXFatalError.h"
 #include "ComponentRuntime/VOXTypeDictionary.h"
+#include "voxbench/features/GatheredGroup.h"
 #include "voxbench/features/GroupFeatures.h"
 #include "voxbench/features/TypeNames.h"
 
@@ -31,16 +32,26 @@ TypeDeclaration Entity(const char* iName, const char* iBase)
   return {.name = iName, .base = iBase, .attributes = {Text("Keyword"), {.name = "Step", .type = VOXSpecInteger}}};
 }
 
+//! What elements are made of: refers to its materials.
+TypeDeclaration Property(const char* iName)
+{
+  TypeDeclaration property = Entity(iName, "AnalysisProperty");
+  property.attributes.push_back({.name = "Materials", .type = VOXSpecList, .elementType = VOXSpecReference});
+  return property;
+}
+
 std::vector<TypeDeclaration> OwnTypes()
 {
   return {Group(kNodeGroupType),
           Group(kEdgeGroupType),
           Group(kFaceGroupType),
           Group(kElementGroupType),
+          Group(kMaterialGroupType),
+          Entity(kMaterialType, "AnalysisEntity"),
           Entity(kLoadType, "AnalysisLoad"),
           Entity(kRestraintType, "AnalysisRestraint"),
           Entity(kMassType, "AnalysisMass"),
-          Entity(kPropertyType, "AnalysisProperty"),
+          Property(kPropertyType),
           Entity(kModulationType, "AnalysisModulation"),
           Entity(kSensorType, "AnalysisSensor")};
 }
@@ -51,6 +62,7 @@ void DeclareAdaptors()
   VOXExtendLateType<VOXISamGroup, EdgeGroup>(kEdgeGroupType);
   VOXExtendLateType<VOXISamGroup, FaceGroup>(kFaceGroupType);
   VOXExtendLateType<VOXISamGroup, ElementGroup>(kElementGroupType);
+  VOXExtendLateType<VOXISamGroup, GatheredElementGroup>(kMaterialGroupType);
 }
 
 //! A declaration that does not fit the host's types is a mistake in this program.
