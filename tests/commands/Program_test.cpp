@@ -27,6 +27,17 @@ std::vector<voxbench::CommandDescription> AllDescriptions()
   return all;
 }
 
+//! The words of a subcommand's first example, on another file.
+std::vector<std::string> FirstExampleOn(const voxbench::CommandDescription& iCommand, const std::string& iFile)
+{
+  std::istringstream words(iCommand.examples.front().line);
+  std::vector<std::string> arguments;
+  for (std::string word; words >> word;)
+    arguments.push_back(word == "bracket.inp" ? iFile : word);
+  arguments.erase(arguments.begin()); // the program itself
+  return arguments;
+}
+
 TEST(Program, HelpListsEverySubcommandWithItsSummary)
 {
   const auto run = RunBuiltProgram({"--help"});
@@ -115,7 +126,7 @@ TEST(Program, AFileThatIsNotThereIsUnreadable)
 {
   for (const auto& command : AllDescriptions())
   {
-    const auto run = RunBuiltProgram({command.name, "/no/such/deck.inp", "--json"});
+    const auto run = RunBuiltProgram(FirstExampleOn(command, "/no/such/deck.inp"));
     EXPECT_EQ(run.code, 3);
     EXPECT_EQ(run.out, "");
     EXPECT_THAT(run.errors, HasSubstr("/no/such/deck.inp"));

@@ -46,8 +46,9 @@ TEST(TreeCommand, TheRootIsAnAnalysisModelWithItsMeshAndItsSets)
   std::vector<std::string> types;
   for (const json& child : root["children"])
     types.push_back(child["type"]);
-  EXPECT_EQ(types, (std::vector<std::string>{"MSHSetContainer", "GroupSet", "MaterialSet", "PropertySet", "MassSet",
-                                             "RestraintSet", "LoadSet", "ModulationSet", "SensorSet"}));
+  EXPECT_EQ(types,
+            (std::vector<std::string>{"MSHSetContainer", "GroupSet", "MaterialSet", "AxisSet", "PropertySet", "MassSet",
+                                      "RestraintSet", "LoadSet", "ModulationSet", "SensorSet", "ConnectionSet"}));
 }
 
 TEST(TreeCommand, GroupsStandInTheGroupSetInTheOrderOfTheDeck)

@@ -136,6 +136,22 @@ TEST_F(AllDecksSlow, TheGroupsOfEachHandOutWhatAPlainReadingFinds)
   }
 }
 
+TEST_F(AllDecksSlow, AxesOwnersChoicesAndConnectionsOfEachAreTold)
+{
+  for (const std::string& deck : decks)
+  {
+    const int readable = voxtest::RunInProcess({"tree", deck, "--depth", "0"}).code;
+    for (const char* const command : {"axes", "params", "connections"})
+    {
+      const auto run = voxtest::RunInProcess({command, deck, "--json"});
+      EXPECT_EQ(run.code, readable) << command << " " << deck << ": " << run.errors;
+      EXPECT_TRUE(run.code != 0 || json::accept(run.out)) << command << " " << deck;
+    }
+    const auto owner = voxtest::RunInProcess({"owner", deck, "2", "--json"});
+    EXPECT_EQ(owner.code, readable) << deck;
+  }
+}
+
 TEST_F(AllDecksSlow, TheHostGetsBackAllThatItGave)
 {
   for (const std::string& deck : decks)
@@ -143,6 +159,8 @@ TEST_F(AllDecksSlow, TheHostGetsBackAllThatItGave)
     const auto before = voxhost::Ledger::Read();
     voxtest::RunInProcess({"tree", deck});
     voxtest::RunInProcess({"groups", deck, "--ids"});
+    voxtest::RunInProcess({"connections", deck});
+    voxtest::RunInProcess({"params", deck, "*", "--set", "Membrane"});
     EXPECT_EQ((voxhost::Ledger::Read() - before).Describe(), "balanced") << deck;
   }
 }

@@ -109,7 +109,10 @@ void ModelBuilder::BuildProperties()
       supports.push_back(group->feature);
     }
     if (!isMass)
+    {
       ReferToMaterials(*entity.feature, section);
+      ChooseSectionKind(*entity.feature, section);
+    }
     Finish(entity, targets, supports);
   }
 }
@@ -118,7 +121,7 @@ void ModelBuilder::BuildRestraints()
 {
   const Pair restraints = MakeSet("RestraintSet", "RESTRAINT_SET", "Restraints");
   for (const AppliedCard& card : _Records.restraints)
-    BuildApplied(restraints, kRestraintType, "DISPLACEMENT", card);
+    ChooseRestraintKind(BuildApplied(restraints, kRestraintType, "DISPLACEMENT", card), card);
 }
 
 void ModelBuilder::BuildLoads()
@@ -128,8 +131,8 @@ void ModelBuilder::BuildLoads()
     BuildApplied(loads, kLoadType, PhysicalTypeOf(card), card);
 }
 
-void ModelBuilder::BuildApplied(const Pair& iSet, const char* iType, const char* iPhysicalType,
-                                const AppliedCard& iCard)
+voxhost::Feature& ModelBuilder::BuildApplied(const Pair& iSet, const char* iType, const char* iPhysicalType,
+                                             const AppliedCard& iCard)
 {
   const bool onNodes = ActsOnNodes(iCard);
   const Plan plan{iType, iPhysicalType, NextName(iCard.keyword), AliasOf(iCard, _Records)};
@@ -152,6 +155,7 @@ void ModelBuilder::BuildApplied(const Pair& iSet, const char* iType, const char*
     }
   }
   Finish(entity, targets, supports);
+  return *entity.feature;
 }
 
 void ModelBuilder::BuildModulations()

@@ -7,6 +7,23 @@
 
 namespace voxbench
 {
+namespace
+{
+
+//! @param iBasic the basic components, or all others.
+std::vector<voxhost::Feature*> HeldBy(const voxhost::Feature& iFeature, bool iBasic)
+{
+  std::vector<voxhost::Feature*> held;
+  const auto& attributes = iFeature.Type().Attributes();
+  for (std::size_t place = 0; place < attributes.size(); ++place)
+    if (attributes[place].HoldsComponents())
+      for (voxhost::Feature* const feature : iFeature.Features(static_cast<int>(place)))
+        if (feature->Type().Has(voxhost::kBasicComponentFace) == iBasic)
+          held.push_back(feature);
+  return held;
+}
+
+} // namespace
 
 LoadedModel::LoadedModel() = default;
 LoadedModel::~LoadedModel() = default;
@@ -22,10 +39,10 @@ std::string LoadedModel::Build(NeutralModel ioRecords)
   return builder.Failure();
 }
 
-std::vector<voxhost::Feature*> LoadedModel::Groups() const
+std::vector<voxhost::Feature*> LoadedModel::MembersOf(const char* iSetType) const
 {
   for (const voxhost::Feature* const set : ChildrenOf(*_Root))
-    if (set->Type().IsSubTypeOf("GroupSet"))
+    if (set->Type().IsSubTypeOf(iSetType))
       return ChildrenOf(*set);
   return {};
 }
@@ -57,13 +74,12 @@ std::optional<std::int64_t> LoadedModel::EntitiesOf(const voxhost::Feature& iFea
 
 std::vector<voxhost::Feature*> LoadedModel::ChildrenOf(const voxhost::Feature& iFeature)
 {
-  std::vector<voxhost::Feature*> children;
-  const auto& attributes = iFeature.Type().Attributes();
-  for (std::size_t place = 0; place < attributes.size(); ++place)
-    if (attributes[place].HoldsComponents())
-      for (voxhost::Feature* const child : iFeature.Features(static_cast<int>(place)))
-        children.push_back(child);
-  return children;
+  return HeldBy(iFeature, false);
+}
+
+std::vector<voxhost::Feature*> LoadedModel::ComponentsOf(const voxhost::Feature& iFeature)
+{
+  return HeldBy(iFeature, true);
 }
 
 std::string LoadedModel::DisplayName(const voxhost::Feature& iFeature)

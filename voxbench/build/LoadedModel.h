@@ -35,15 +35,20 @@ public:
   //! The analysis model: the root of the feature tree.
   voxhost::Feature& Root() const { return *_Root; }
 
-  //! The features of the group set, in their order.
-  std::vector<voxhost::Feature*> Groups() const;
+  //! The features of a set of the analysis model, by the set's type, in their order; none when there is no such set.
+  std::vector<voxhost::Feature*> MembersOf(const char* iSetType) const;
+  std::vector<voxhost::Feature*> Groups() const { return MembersOf("GroupSet"); }
 
   //! Number of nodes, elements or sides that a feature's objects in the explicit model apply to; of a mesh its elements.
   //! None for features that apply to nothing by their nature, such as sets.
   std::optional<std::int64_t> EntitiesOf(const voxhost::Feature& iFeature) const;
 
-  //! The features that a feature holds, in the order of its attributes.
+  //! The features that a feature holds, in the order of its attributes, basic components left out: those are parts of
+  //! its values.
   static std::vector<voxhost::Feature*> ChildrenOf(const voxhost::Feature& iFeature);
+
+  //! The basic components that a feature holds, in the order of its attributes.
+  static std::vector<voxhost::Feature*> ComponentsOf(const voxhost::Feature& iFeature);
 
   //! The alias; of a feature without one, its name.
   static std::string DisplayName(const voxhost::Feature& iFeature);

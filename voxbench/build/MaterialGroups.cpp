@@ -27,21 +27,13 @@ std::vector<voxhost::Feature*> GroupsOf(const voxhost::Feature& iMaterial,
   return groups;
 }
 
-std::vector<voxhost::Feature*> MembersOf(const LoadedModel& iModel, const char* iSetType)
-{
-  for (const voxhost::Feature* const set : LoadedModel::ChildrenOf(iModel.Root()))
-    if (set->Type().IsSubTypeOf(iSetType))
-      return LoadedModel::ChildrenOf(*set);
-  return {};
-}
-
 } // namespace
 
 std::vector<voxhost::Feature*> MakeMaterialGroups(LoadedModel& ioModel)
 {
-  const std::vector<voxhost::Feature*> properties = MembersOf(ioModel, "PropertySet");
+  const std::vector<voxhost::Feature*> properties = ioModel.MembersOf("PropertySet");
   std::vector<voxhost::Feature*> groups;
-  for (const voxhost::Feature* const material : MembersOf(ioModel, "MaterialSet"))
+  for (const voxhost::Feature* const material : ioModel.MembersOf("MaterialSet"))
   {
     const std::vector<voxhost::Feature*> supports = GroupsOf(*material, properties);
     if (supports.empty())

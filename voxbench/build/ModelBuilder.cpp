@@ -23,11 +23,13 @@ voxhost::Feature* ModelBuilder::Build()
   BuildMesh();
   BuildGroups();
   BuildMaterials();
+  BuildAxes();
   BuildProperties();
   BuildRestraints();
   BuildLoads();
   BuildModulations();
   BuildSensors();
+  BuildConnections();
   if (_Failure.empty() && FAILED(_Document.UpdateAll()))
     _Failure = "the document cannot be brought up to date";
   return _Root.feature;

@@ -63,17 +63,28 @@ private:
                   voxhost::ApplyTo iMembers, NamedGroups& ioIndex);
   void BuildSurface(Surface& ioSurface);
   void BuildMaterials();
+  void BuildAxes();
+  void SetFrame(const Pair& iAxis, const LocalAxes& iCard);
+  void LogImplicitAxes(const Pair& iAxisSet);
   void BuildProperties();
   void ReferToMaterials(voxhost::Feature& ioProperty, const Section& iSection) const;
   void BuildRestraints();
   void BuildLoads();
-  void BuildApplied(const Pair& iSet, const char* iType, const char* iPhysicalType, const AppliedCard& iCard);
+  voxhost::Feature& BuildApplied(const Pair& iSet, const char* iType, const char* iPhysicalType,
+                                 const AppliedCard& iCard);
   void BuildModulations();
   void BuildSensors();
+  void BuildConnections();
+  void BuildSide(const Pair& iConnection, int iNumber, const std::string& iTarget, std::int32_t iNode);
+  using ComponentValues = std::vector<std::pair<std::string, double>>; // by type of the component
+  void ChooseSectionKind(voxhost::Feature& ioProperty, const Section& iSection);
+  void ChooseRestraintKind(voxhost::Feature& ioRestraint, const AppliedCard& iCard);
+  void Choose(voxhost::Feature& ioFeature, int iIndex, const ComponentValues& iValues);
 
   const NamedGroup* Find(const NamedGroups& iIndex, std::string_view iName) const;
   //! The set or surface that a card means by a name: of nodes or of elements first, then any other.
   const NamedGroup* FindTarget(const std::string& iName, bool iOnNodes) const;
+  const NamedGroup* FindSurfaceOrSet(const std::string& iName) const;
   std::string NextName(const std::string& iKeyword);
 
   NeutralModel& _Records;

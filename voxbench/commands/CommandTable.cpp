@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "voxbench/commands/AxesCommand.h"
+#include "voxbench/commands/ConnectionsCommand.h"
 #include "voxbench/commands/GroupsCommand.h"
 #include "voxbench/commands/InfoCommand.h"
+#include "voxbench/commands/OwnerCommand.h"
+#include "voxbench/commands/ParamsCommand.h"
 #include "voxbench/commands/TreeCommand.h"
 
 namespace voxbench
@@ -18,7 +22,9 @@ std::unique_ptr<Command> Make()
 
 const std::vector<CommandFactory>& CommandTable()
 {
-  static const std::vector<CommandFactory> table{Make<InfoCommand>, Make<TreeCommand>, Make<GroupsCommand>};
+  static const std::vector<CommandFactory> table{Make<InfoCommand>,       Make<TreeCommand>,  Make<GroupsCommand>,
+                                                 Make<AxesCommand>,       Make<OwnerCommand>, Make<ParamsCommand>,
+                                                 Make<ConnectionsCommand>};
   return table;
 }
 

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/features/Catalogue.h"
+#include "AnalysisInterfaces/VOXISamConnectionDesign.h"
 #include "ComponentRuntime/VOXFatalError.h"
 #include "ComponentRuntime/VOXTypeDictionary.h"
+#include "VOXESamConnectionDesignAdaptor.h"
+#include "voxbench/features/DeckAxis.h"
 #include "voxbench/features/GatheredGroup.h"
 #include "voxbench/features/GroupFeatures.h"
+#include "voxbench/features/SelectionLists.h"
 #include "voxbench/features/TypeNames.h"
 
 #include <string>
@@ -32,12 +36,53 @@ TypeDeclaration Entity(const char* iName, const char* iBase)
   return {.name = iName, .base = iBase, .attributes = {Text("Keyword"), {.name = "Step", .type = VOXSpecInteger}}};
 }
 
+//! A choice that a feature holds.
+AttributeDeclaration Choice(const char* iType)
+{
+  return {.name = "Kind", .type = VOXSpecComponent, .components = {{iType, iType}}};
+}
+
+TypeDeclaration ChoiceType(const char* iName, std::span<const SelectionEntry> iEntries)
+{
+  voxhost::ParameterDeclaration parameter{VOXCkeContext::EnumType, {}};
+  for (const SelectionEntry& entry : iEntries)
+    parameter.entries.emplace_back(entry.name);
+  return {.name = iName, .base = "SAMListManager", .parameter = parameter};
+}
+
 //! What elements are made of: refers to its materials.
 TypeDeclaration Property(const char* iName)
 {
   TypeDeclaration property = Entity(iName, "AnalysisProperty");
   property.attributes.push_back({.name = "Materials", .type = VOXSpecList, .elementType = VOXSpecReference});
+  property.attributes.push_back(Choice(kSectionKindType));
   return property;
+}
+
+//! What holds degrees of freedom.
+TypeDeclaration Restraint(const char* iName)
+{
+  TypeDeclaration restraint = Entity(iName, "AnalysisRestraint");
+  restraint.attributes.push_back(Choice(kRestraintKindType));
+  return restraint;
+}
+
+TypeDeclaration Axis(const char* iName)
+{
+  TypeDeclaration axis = Entity(iName, "AnalysisAxis");
+  axis.attributes.push_back({.name = "Frame", .type = VOXSpecList, .elementType = VOXSpecReal});
+  return axis;
+}
+
+std::vector<TypeDeclaration> BasicComponents()
+{
+  std::vector<TypeDeclaration> types{ChoiceType(kSectionKindType, SectionKinds()),
+                                     ChoiceType(kRestraintKindType, RestraintKinds())};
+  for (const char* const name :
+       {kShellThicknessType, kShellOffsetType, kBeamWidthType, kBeamHeightType, kSpringStiffnessType,
+        kDashpotCoefficientType, kGapClearanceType, kPrescribedValueType, kModulationFactorType})
+    types.push_back({.name = name, .base = "SAMRealComponent"});
+  return types;
 }
 
 std::vector<TypeDeclaration> OwnTypes()
@@ -49,7 +94,10 @@ std::vector<TypeDeclaration> OwnTypes()
           Group(kMaterialGroupType),
           Entity(kMaterialType, "AnalysisEntity"),
           Entity(kLoadType, "AnalysisLoad"),
-          Entity(kRestraintType, "AnalysisRestraint"),
+          Restraint(kRestraintType),
+          Axis(kAxisType),
+          Entity(kConnectionType, "AnalysisConnection"),
+          {.name = kConnectionSideType, .base = "SAMConnectionDesigner", .physicalType = "CONNECTION_SIDE"},
           Entity(kMassType, "AnalysisMass"),
           Property(kPropertyType),
           Entity(kModulationType, "AnalysisModulation"),
@@ -63,6 +111,10 @@ void DeclareAdaptors()
   VOXExtendLateType<VOXISamGroup, FaceGroup>(kFaceGroupType);
   VOXExtendLateType<VOXISamGroup, ElementGroup>(kElementGroupType);
   VOXExtendLateType<VOXISamGroup, GatheredElementGroup>(kMaterialGroupType);
+  VOXExtendLateType<VOXISamAnalysisAxis, DeckAxis>(kAxisType);
+  VOXTieLateType<VOXISamConnectionDesign, VOXTieConnectionDesign<VOXESamConnectionDesignAdaptor>>(kConnectionType);
+  VOXTieLateType<VOXISamSelectionList, VOXTieSelectionList<SectionKindManager>>(kSectionKindType);
+  VOXTieLateType<VOXISamSelectionList, VOXTieSelectionList<RestraintKindManager>>(kRestraintKindType);
 }
 
 //! A declaration that does not fit the host's types is a mistake in this program.
@@ -76,6 +128,7 @@ std::shared_ptr<const voxhost::TypeCatalogue> MakeTypes()
 {
   const auto types = std::make_shared<voxhost::TypeCatalogue>();
   Insist(types->Declare(voxhost::AnalysisTypes()));
+  Insist(types->Declare(BasicComponents()));
   Insist(types->Declare(OwnTypes()));
   DeclareAdaptors();
   return types;

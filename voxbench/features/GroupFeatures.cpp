@@ -1,36 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/features/GroupFeatures.h"
-#include "FeatureModeler/VOXISpecAttrAccess.h"
+#include "voxbench/features/FeatureAttribute.h"
 
 #include <memory>
 
 namespace voxbench
 {
-namespace
-{
-
-//! Key of an attribute of the feature that an adaptor extends; null when there is none.
-struct AttributeOfFeature
-{
-  VOXISpecAttrAccess_var spAccess;
-  VOXISpecAttrKey_var spKey;
-
-  AttributeOfFeature(const VOXBaseUnknown& iFace, const char* iName) : spAccess(iFace.GetImpl(0))
-  {
-    if (!spAccess)
-      return;
-    VOXISpecAttrKey* const piKey = spAccess->GetAttrKey(iName); // one reference for the caller
-    spKey = piKey;
-    if (piKey != nullptr)
-      piKey->Release();
-  }
-};
-
-} // namespace
-
 HRESULT NamedGroup::GetDefinitionType(VOXUnicodeString& oDefinition) const
 {
-  const AttributeOfFeature definition(*this, "Definition");
+  const FeatureAttribute definition(*this, "Definition");
   if (!definition.spKey)
     return E_FAIL;
   oDefinition = definition.spAccess->GetString(definition.spKey, 0);
@@ -55,7 +33,7 @@ HRESULT NamedGroup::GetKeywords(VOXSamValue iValue, int& oCount, const VOXString
 HRESULT NamedGroup::GetSupports(VOXListValVOXBaseUnknown_var& oSupports) const
 {
   oSupports = VOXListValVOXBaseUnknown_var();
-  const AttributeOfFeature supports(*this, "Supports");
+  const FeatureAttribute supports(*this, "Supports");
   if (!supports.spKey)
     return E_FAIL;
   const std::unique_ptr<VOXListValVOXBaseUnknown_var> listed(

@@ -17,5 +17,21 @@ inline constexpr const char* kMassType = "DeckMass";
 inline constexpr const char* kPropertyType = "DeckProperty";
 inline constexpr const char* kModulationType = "DeckModulation";
 inline constexpr const char* kSensorType = "DeckSensor";
+inline constexpr const char* kAxisType = "DeckAxis";
+inline constexpr const char* kConnectionType = "DeckConnection";
+inline constexpr const char* kConnectionSideType = "DeckConnectionSide";
+
+//! Basic components: choices, and the numbers that they need.
+inline constexpr const char* kSectionKindType = "SectionKind";
+inline constexpr const char* kRestraintKindType = "RestraintKind";
+inline constexpr const char* kShellThicknessType = "ShellThickness";
+inline constexpr const char* kShellOffsetType = "ShellOffset";
+inline constexpr const char* kBeamWidthType = "BeamWidth";
+inline constexpr const char* kBeamHeightType = "BeamHeight";
+inline constexpr const char* kSpringStiffnessType = "SpringStiffness";
+inline constexpr const char* kDashpotCoefficientType = "DashpotCoefficient";
+inline constexpr const char* kGapClearanceType = "GapClearance";
+inline constexpr const char* kPrescribedValueType = "PrescribedValue";
+inline constexpr const char* kModulationFactorType = "ModulationFactor";
 
 } // namespace voxbench
