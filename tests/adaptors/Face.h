@@ -3,6 +3,7 @@
 
 #include "ComponentRuntime/VOXHandle.h"
 #include "tests/support/Bench.h"
+#include "tests/support/CallLog.h"
 #include "tests/support/Torture.h"
 #include "tests/support/VirtualTable.h"
 
@@ -15,6 +16,19 @@ class Face : public Adaptor
 {
 public:
   using Carries = Interface;
+};
+
+//! The same, noting each query that goes to the object itself: "own query". A query of its component is not noted.
+template <class Adaptor, class Interface>
+class QueriedFace : public Face<Adaptor, Interface>
+{
+public:
+  using Adaptor::QueryInterface;
+  HRESULT QueryInterface(const IID& iInterface, void** oFace) override
+  {
+    CallLog::Note("own query");
+    return Adaptor::QueryInterface(iInterface, oFace);
+  }
 };
 
 //! One component that carries a class under test, reached by a query as the host reaches it.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/ScriptedInterfaces.h"
 
+#include <algorithm>
+
 namespace voxtest
 {
 namespace
@@ -81,7 +83,10 @@ int ScriptedSpecObject::IsSubTypeOf(const VOXUnicodeString& iType) const
 {
   if (CallLog::Enter("VOXISpecObject::IsSubTypeOf", Text(iType)))
     return 0;
-  return iType == Told().type.c_str() ? 1 : 0;
+  const auto isAsked = [&iType](const std::string& iOwn) { return iType == iOwn.c_str(); };
+  const SpecObjectScript& told = Told();
+  const bool isFurther = std::any_of(told.alsoOfTypes.begin(), told.alsoOfTypes.end(), isAsked);
+  return isAsked(told.type) || isFurther ? 1 : 0;
 }
 
 unsigned char ScriptedSpecObject::IsUpToDate(const VOXIDomain_var& iDomain) const

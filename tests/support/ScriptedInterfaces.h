@@ -42,7 +42,8 @@ public:
 //! What a scripted VOXISpecObject answers. Pointers are borrowed and must outlive the script.
 struct SpecObjectScript
 {
-  std::string type; //!< the one type that the type test says yes to
+  std::string type;                     //!< a type that the type test says yes to
+  std::vector<std::string> alsoOfTypes; //!< further ones
   unsigned char upToDate = 1;
   HRESULT updateResult = S_OK; //!< a success makes the feature up to date
   VOXISpecObject* startUp = nullptr;
