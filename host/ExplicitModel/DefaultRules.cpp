@@ -8,6 +8,18 @@ namespace voxhost
 const std::vector<PhysicalTypeRule>& ExplicitRules::DefaultTable()
 {
   static const std::vector<PhysicalTypeRule> table = {
+      // Known to every model under numbers of their own: what has no kind of its own, and what came from another model.
+      // Imported entities stand in sets of their category, whatever the sets list.
+      {"GENERIC_ENTITY", VOXSamValueEntity, {}},
+      {"GENERIC_SET", VOXSamValueOtherSet, {}},
+      {"IMPORTED_MATERIAL", VOXSamValueEntity, {}},
+      {"IMPORTED_AXIS", VOXSamValueAxis, {}},
+      {"IMPORTED_PROPERTY", VOXSamValueEntity, {}},
+      {"IMPORTED_RESTRAINT", VOXSamValueEntity, {}},
+      {"IMPORTED_LOAD", VOXSamValueEntity, {}},
+      {"IMPORTED_MASS", VOXSamValueEntity, {}},
+
+      // The analysis model, its mesh, its sets, and what stands in each.
       {"ANALYSIS_MODEL",
        VOXSamValueAnalysisModel,
        {"MESH_SET", "MATERIAL_SET", "AXIS_SET", "PROPERTY_SET", "RESTRAINT_SET", "LOAD_SET", "MASS_SET", "GROUP_SET",

@@ -187,12 +187,12 @@ TEST(ApplyToUnion, OfNothingAppliesToNothing)
 TEST(Coverage, CountsTheRecordsThatBecomeNoFeature)
 {
   NeutralModel records;
-  records.materials.resize(2);
+  records.interactions.resize(2);
   records.otherCards.resize(2);
   records.otherCards[0].keyword = records.otherCards[1].keyword = "CONTROLS";
   const auto uncovered = RecordsWithoutFeature(records);
   ASSERT_EQ(uncovered.size(), 2u);
-  EXPECT_EQ(uncovered[0].what, "materials");
+  EXPECT_EQ(uncovered[0].what, "contact interactions");
   EXPECT_EQ(uncovered[1].what, "*CONTROLS cards");
   EXPECT_EQ(uncovered[1].count, 2);
 }

@@ -76,23 +76,28 @@ void ModelBuilder::BuildConnections()
     const Connection& surfaces = WithSurfaces(connection, _Records.connections);
     if (JoinsTwoSurfaces(connection.kind))
     {
-      BuildSide(made, 1, surfaces.dependent, 0);
-      BuildSide(made, 2, surfaces.independent, 0);
+      BuildSide(made, 1, surfaces.dependent, {});
+      BuildSide(made, 2, surfaces.independent, {});
     }
     else
     {
-      BuildSide(made, 1, "", connection.referenceNode);
-      BuildSide(made, 2, connection.dependent, 0);
+      std::vector<std::int32_t> nodes;
+      for (const std::int32_t node : {connection.referenceNode, connection.rotationNode})
+        if (node != 0)
+          nodes.push_back(node);
+      BuildSide(made, 1, "", nodes);
+      BuildSide(made, 2, connection.dependent, {});
     }
   }
 }
 
-//! @param iTarget a set or surface; "" when the side is a node, or nothing at all (0). Then it has no designer.
-void ModelBuilder::BuildSide(const Pair& iConnection, int iNumber, const std::string& iTarget, std::int32_t iNode)
+//! @param iTarget a set or surface; "" when the side is nodes. A side of neither has no designer.
+void ModelBuilder::BuildSide(const Pair& iConnection, int iNumber, const std::string& iTarget,
+                             const std::vector<std::int32_t>& iNodes)
 {
-  if (iTarget.empty() && iNode == 0)
+  if (iTarget.empty() && iNodes.empty())
     return;
-  const std::string alias = iNode != 0 ? fmt::format("node {}", iNode) : iTarget;
+  const std::string alias = iNodes.empty() ? iTarget : fmt::format("node {}", fmt::join(iNodes, " and "));
   const Plan plan{kConnectionSideType, "CONNECTION_SIDE", fmt::format("Side.{}", iNumber), alias};
   const Pair side = Make(iConnection, plan);
   side.feature->Add("Designers", *_Mesh.feature);
@@ -100,16 +105,17 @@ void ModelBuilder::BuildSide(const Pair& iConnection, int iNumber, const std::st
 
   ApplyToUnion targets(_Model.Mesh());
   std::vector<voxhost::Feature*> supports;
-  if (iNode != 0)
-  {
-    targets.AddNode(iNode);
+  for (const std::int32_t node : iNodes)
+    targets.AddNode(node);
+  if (!iNodes.empty())
     supports.push_back(_Mesh.feature);
-  }
   else if (const NamedGroup* const group = FindSurfaceOrSet(iTarget))
   {
     targets.Add(group->members);
     supports.push_back(group->feature);
   }
+  else
+    NoteMissing(*side.feature, {iTarget});
   Finish(side, targets, supports);
 }
 

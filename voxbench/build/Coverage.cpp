@@ -14,15 +14,9 @@ std::vector<UncoveredRecords> RecordsWithoutFeature(const NeutralModel& iRecords
     if (iCount > 0)
       uncovered.push_back({std::move(iWhat), static_cast<std::int64_t>(iCount)});
   };
-  add("materials", iRecords.materials.size());
   add("contact interactions", iRecords.interactions.size());
   add("initial conditions", iRecords.initialConditions.size());
   add("nodal thicknesses", iRecords.nodalThicknesses.size());
-  add("equations", iRecords.equations.size());
-  add("multiple point constraints", iRecords.multiPointConstraints.size());
-  add("orientations", iRecords.orientations.size());
-  add("transforms", iRecords.transforms.size());
-  add("connections", iRecords.connections.size());
   add("steps", iRecords.steps.size());
   std::map<std::string, std::size_t> others;
   for (const CardRecord& card : iRecords.otherCards)

@@ -108,6 +108,8 @@ void ModelBuilder::BuildProperties()
       targets.Add(group->members);
       supports.push_back(group->feature);
     }
+    else if (!section.elementSet.empty())
+      NoteMissing(*entity.feature, {section.elementSet});
     if (!isMass)
     {
       ReferToMaterials(*entity.feature, section);
@@ -122,6 +124,8 @@ void ModelBuilder::BuildRestraints()
   const Pair restraints = MakeSet("RestraintSet", "RESTRAINT_SET", "Restraints");
   for (const AppliedCard& card : _Records.restraints)
     ChooseRestraintKind(BuildApplied(restraints, kRestraintType, "DISPLACEMENT", card), card);
+  BuildEquations(restraints);
+  BuildMultiPointConstraints(restraints);
 }
 
 void ModelBuilder::BuildLoads()
@@ -140,13 +144,17 @@ voxhost::Feature& ModelBuilder::BuildApplied(const Pair& iSet, const char* iType
 
   ApplyToUnion targets(_Model.Mesh());
   std::vector<voxhost::Feature*> supports;
+  std::vector<std::string> missing;
   for (const AppliedRow& row : iCard.rows)
   {
     if (row.name < 0 && onNodes)
       targets.AddNode(row.id);
     else if (row.name < 0)
       targets.AddElement(row.id);
-    else if (const NamedGroup* const group = FindTarget(_Records.names[static_cast<std::size_t>(row.name)], onNodes))
+    else if (const NamedGroup* const group = FindTarget(_Records.names[static_cast<std::size_t>(row.name)], onNodes);
+             group == nullptr)
+      missing.push_back(_Records.names[static_cast<std::size_t>(row.name)]);
+    else
     {
       if (std::find(supports.begin(), supports.end(), group->feature) != supports.end())
         continue;
@@ -154,6 +162,7 @@ voxhost::Feature& ModelBuilder::BuildApplied(const Pair& iSet, const char* iType
       supports.push_back(group->feature);
     }
   }
+  NoteMissing(*entity.feature, missing);
   Finish(entity, targets, supports);
   return *entity.feature;
 }
@@ -182,8 +191,21 @@ void ModelBuilder::BuildSensors()
       targets.Add(group->members);
       supports.push_back(group->feature);
     }
+    else
+      NoteMissing(*entity.feature, {request.set});
     Finish(entity, targets, supports);
   }
+}
+
+//! Names that a card uses and the file does not define, each once.
+void ModelBuilder::NoteMissing(voxhost::Feature& ioFeature, const std::vector<std::string>& iNames) const
+{
+  std::vector<std::string> noted;
+  for (const std::string& name : iNames)
+    if (std::find(noted.begin(), noted.end(), name) == noted.end())
+      noted.push_back(name);
+  if (!noted.empty())
+    ioFeature.Set("Missing", std::move(noted));
 }
 
 const ModelBuilder::NamedGroup* ModelBuilder::Find(const NamedGroups& iIndex, std::string_view iName) const

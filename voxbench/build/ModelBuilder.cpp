@@ -2,6 +2,7 @@
 #include "voxbench/build/ModelBuilder.h"
 #include "VOXSamGroupTools.h"
 #include "voxbench/build/EntityNames.h"
+#include "voxbench/build/NamesInUse.h"
 #include "voxbench/features/TypeNames.h"
 
 #include <new>
@@ -18,6 +19,7 @@ ModelBuilder::ModelBuilder(NeutralModel& ioRecords, voxhost::Document& ioDocumen
 
 voxhost::Feature* ModelBuilder::Build()
 {
+  _NamesInUse = NamesInUse(_Records);
   const std::string title = _Records.title.empty() ? "" : _Records.title.front();
   _Root = Make({}, {"AnalysisModel", "ANALYSIS_MODEL", "Analysis model", title});
   BuildMesh();
@@ -99,6 +101,8 @@ void ModelBuilder::BuildGroup(const char* iType, const GroupKind& iKind, const c
 {
   Pair group = Make(_GroupSet, {iType, "GROUP", NextName("GROUP"), iName});
   group.feature->Set("Definition", std::string(iDefinition));
+  if (_NamesInUse.contains(iName))
+    group.feature->Set("NamedElsewhere", std::int32_t{1});
   group.feature->Add("Supports", *_Mesh.feature);
   VOXAnalysisExplicitParent noSource;
   VOXSamGroupTools::MakeReadyForVisu(group.feature, noSource, group.object);

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace voxbench
@@ -74,14 +75,21 @@ private:
                                  const AppliedCard& iCard);
   void BuildModulations();
   void BuildSensors();
+  void BuildEquations(const Pair& iSet);
+  void AddEquation(const Pair& iConstraint, std::size_t iRow, ApplyToUnion& ioTargets);
+  void BuildMultiPointConstraints(const Pair& iSet);
+  void AddConstraint(const MultiPointConstraint& iConstraint, ApplyToUnion& ioTargets,
+                     std::vector<voxhost::Feature*>& ioSupports) const;
   void BuildConnections();
-  void BuildSide(const Pair& iConnection, int iNumber, const std::string& iTarget, std::int32_t iNode);
+  void BuildSide(const Pair& iConnection, int iNumber, const std::string& iTarget,
+                 const std::vector<std::int32_t>& iNodes);
   using ComponentValues = std::vector<std::pair<std::string, double>>; // by type of the component
   void ChooseSectionKind(voxhost::Feature& ioProperty, const Section& iSection);
   void ChooseRestraintKind(voxhost::Feature& ioRestraint, const AppliedCard& iCard);
   void Choose(voxhost::Feature& ioFeature, int iIndex, const ComponentValues& iValues);
 
   const NamedGroup* Find(const NamedGroups& iIndex, std::string_view iName) const;
+  void NoteMissing(voxhost::Feature& ioFeature, const std::vector<std::string>& iNames) const;
   //! The set or surface that a card means by a name: of nodes or of elements first, then any other.
   const NamedGroup* FindTarget(const std::string& iName, bool iOnNodes) const;
   const NamedGroup* FindSurfaceOrSet(const std::string& iName) const;
@@ -91,6 +99,7 @@ private:
   voxhost::Document& _Document;
   voxhost::ExplicitModel& _Model;
   std::string _Failure;
+  std::unordered_set<std::string> _NamesInUse; // by what becomes no feature
   Pair _Root;
   Pair _Mesh;
   Pair _GroupSet;

@@ -5,6 +5,7 @@
 #include "ComponentRuntime/VOXTypeDictionary.h"
 #include "VOXESamConnectionDesignAdaptor.h"
 #include "voxbench/features/DeckAxis.h"
+#include "voxbench/features/EntityFeatures.h"
 #include "voxbench/features/GatheredGroup.h"
 #include "voxbench/features/GroupFeatures.h"
 #include "voxbench/features/SelectionLists.h"
@@ -20,6 +21,12 @@ namespace
 using voxhost::AttributeDeclaration;
 using voxhost::TypeDeclaration;
 
+//! Names of sets and surfaces that a card uses and the file does not define.
+AttributeDeclaration Missing()
+{
+  return {.name = "Missing", .type = VOXSpecList, .elementType = VOXSpecString};
+}
+
 AttributeDeclaration Text(const char* iName)
 {
   return {.name = iName, .type = VOXSpecString};
@@ -27,13 +34,17 @@ AttributeDeclaration Text(const char* iName)
 
 TypeDeclaration Group(const char* iName)
 {
-  return {.name = iName, .base = "SAMSpecifiedGroup", .attributes = {Text("Definition")}};
+  return {.name = iName,
+          .base = "SAMSpecifiedGroup",
+          .attributes = {Text("Definition"), {.name = "NamedElsewhere", .type = VOXSpecInteger}}};
 }
 
 //! An entity that a card of a deck defines.
 TypeDeclaration Entity(const char* iName, const char* iBase)
 {
-  return {.name = iName, .base = iBase, .attributes = {Text("Keyword"), {.name = "Step", .type = VOXSpecInteger}}};
+  return {.name = iName,
+          .base = iBase,
+          .attributes = {Text("Keyword"), {.name = "Step", .type = VOXSpecInteger}, Missing()}};
 }
 
 //! A choice that a feature holds.
@@ -97,7 +108,11 @@ std::vector<TypeDeclaration> OwnTypes()
           Restraint(kRestraintType),
           Axis(kAxisType),
           Entity(kConnectionType, "AnalysisConnection"),
-          {.name = kConnectionSideType, .base = "SAMConnectionDesigner", .physicalType = "CONNECTION_SIDE"},
+          {.name = kConnectionSideType,
+           .base = "SAMConnectionDesigner",
+           .physicalType = "CONNECTION_SIDE",
+           .attributes = {Missing()}},
+          Entity(kConstraintType, "AnalysisRestraint"),
           Entity(kMassType, "AnalysisMass"),
           Property(kPropertyType),
           Entity(kModulationType, "AnalysisModulation"),
@@ -106,6 +121,11 @@ std::vector<TypeDeclaration> OwnTypes()
 
 void DeclareAdaptors()
 {
+  VOXExtendLateType<VOXISamAnalysisEntityInit, EntityInit>("AnalysisEntity");
+  VOXExtendLateType<VOXISamMeshSubscriber, MeshSubscriber>("AnalysisEntity");
+  for (const char* const set : {"AnalysisSet", "MSHSetContainer"})
+    VOXExtendLateType<VOXISamAnalysisSetInit, SetInit>(set);
+  VOXExtendLateType<VOXISamVisibility, Visibility>("AnalysisFeature");
   VOXExtendLateType<VOXISamGroup, NodeGroup>(kNodeGroupType);
   VOXExtendLateType<VOXISamGroup, EdgeGroup>(kEdgeGroupType);
   VOXExtendLateType<VOXISamGroup, FaceGroup>(kFaceGroupType);

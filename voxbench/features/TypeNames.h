@@ -13,6 +13,7 @@ inline constexpr const char* kMaterialGroupType = "DeckMaterialGroup";
 inline constexpr const char* kMaterialType = "DeckMaterial";
 inline constexpr const char* kLoadType = "DeckLoad";
 inline constexpr const char* kRestraintType = "DeckRestraint";
+inline constexpr const char* kConstraintType = "DeckConstraint";
 inline constexpr const char* kMassType = "DeckMass";
 inline constexpr const char* kPropertyType = "DeckProperty";
 inline constexpr const char* kModulationType = "DeckModulation";

@@ -71,6 +71,7 @@ struct NamedSet
   std::string name;
   Column<std::int32_t> members; //!< ascending, unique, only ids that exist
   Where where;                  //!< the first card that names members
+  bool isPart = false;          //!< another set or surface is made of it
 };
 
 enum class SurfaceKind : std::uint8_t

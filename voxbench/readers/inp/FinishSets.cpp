@@ -152,6 +152,17 @@ void AddNodesOfElements(Reading& ioReading, SetBuilder& ioSet)
   }
 }
 
+// Notes which sets a set is made of: of its own sort, and element sets whose nodes it takes.
+void NoteParts(Reading& ioReading, SetBuilders& ioSets, const SetBuilder& iSet, std::vector<NamedSet>& oSets)
+{
+  for (const NamedReference& reference : iSet.references)
+    if (const std::int64_t index = ioSets.Find(reference.name); index >= 0)
+      oSets[static_cast<std::size_t>(index)].isPart = true;
+  for (const NamedReference& reference : iSet.nodesOfElements)
+    if (const std::int64_t index = ioReading.elementSets.Find(reference.name); index >= 0)
+      ioReading.model.elementSets[static_cast<std::size_t>(index)].isPart = true;
+}
+
 void SettleSets(Reading& ioReading, SetBuilders& ioSets, const Population& iPopulation, std::vector<NamedSet>& oSets)
 {
   std::vector<SetBuilder>& all = ioSets.All();
@@ -164,6 +175,7 @@ void SettleSets(Reading& ioReading, SetBuilders& ioSets, const Population& iPopu
     ReportMissingOfRanges(ioReading, all[at], iPopulation);
     ReportReferences(ioReading, ioSets, all[at], iPopulation.what);
     AddNodesOfElements(ioReading, all[at]);
+    NoteParts(ioReading, ioSets, all[at], oSets);
   }
   for (std::size_t at = 0; at < all.size(); ++at) // the sets of sets first, as long as all lists stand
   {

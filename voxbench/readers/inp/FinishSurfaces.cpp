@@ -146,7 +146,9 @@ void FinishElementSurface(Reading& ioReading, const SetBuilder& iBuilder, Surfac
       ReportUnknownSet(ioReading, iBuilder, reference, "an element");
       continue;
     }
-    for (const std::int32_t id : ioReading.model.elementSets[static_cast<std::size_t>(index)].members)
+    NamedSet& set = ioReading.model.elementSets[static_cast<std::size_t>(index)];
+    set.isPart = true;
+    for (const std::int32_t id : set.members)
       gatherer.Add(id, reference.label, reference.where);
   }
   gatherer.Finish(oSurface);
@@ -163,8 +165,9 @@ void FinishNodeSurface(Reading& ioReading, SetBuilder& ioBuilder, Surface& oSurf
       ReportUnknownSet(ioReading, ioBuilder, reference, "a node");
       continue;
     }
-    const Column<std::int32_t>& members = ioReading.model.nodeSets[static_cast<std::size_t>(index)].members;
-    ioBuilder.ids.Append(members.data(), members.size());
+    NamedSet& set = ioReading.model.nodeSets[static_cast<std::size_t>(index)];
+    set.isPart = true;
+    ioBuilder.ids.Append(set.members.data(), set.members.size());
   }
   std::sort(ioBuilder.ids.begin(), ioBuilder.ids.end());
   std::int64_t missing = 0;
