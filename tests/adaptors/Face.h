@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "AnalysisCore/ErrorDepthHandler.h"
 #include "ComponentRuntime/VOXHandle.h"
+#include "host/Instruments/Faults.h"
 #include "tests/support/Bench.h"
 #include "tests/support/CallLog.h"
 #include "tests/support/Torture.h"
 #include "tests/support/VirtualTable.h"
+
+#include <algorithm>
+#include <functional>
+#include <string>
 
 namespace voxtest
 {
@@ -18,7 +24,8 @@ public:
   using Carries = Interface;
 };
 
-//! The same, noting each query that goes to the object itself: "own query". A query of its component is not noted.
+//! The same, noting each query that goes to the object itself, "own query", and each question for its implementation,
+//! "own implementation(0)". A query of its component is not noted.
 template <class Adaptor, class Interface>
 class QueriedFace : public Face<Adaptor, Interface>
 {
@@ -28,6 +35,11 @@ public:
   {
     CallLog::Note("own query");
     return Adaptor::QueryInterface(iInterface, oFace);
+  }
+  VOXBaseUnknown* GetImpl(int iMode = 0) const override
+  {
+    CallLog::Note("own implementation(" + std::to_string(iMode) + ")");
+    return Adaptor::GetImpl(iMode);
   }
 };
 
@@ -49,5 +61,16 @@ private:
   VOXBaseUnknown* _Component;
   VOXHandle<Interface> _Handle;
 };
+
+//! The most error handlers that were alive at any host call of an operation. Not under a CallLog.
+inline int ErrorHandlersDuring(const std::function<void()>& iOperation)
+{
+  static int most;
+  most = 0;
+  voxhost::Faults::Listen([](const char*) { most = std::max(most, ErrorDepthHandler::_SamDepth_); });
+  iOperation();
+  voxhost::Faults::Listen(nullptr);
+  return most;
+}
 
 } // namespace voxtest

@@ -17,6 +17,35 @@ namespace
 
 using EntityInit = Face<VOXEAnalysisEntityInit, VOXISamAnalysisEntityInit>;
 using World = PlacementWorld<EntityInit>;
+using QueriedEntityInit = QueriedFace<VOXEAnalysisEntityInit, VOXISamAnalysisEntityInit>;
+
+//! An implementation that notes what kind it is asked to be, and is of one kind.
+class ImplementationOfKind : public VOXBaseUnknown
+{
+public:
+  ImplementationOfKind(std::string iKind, int iYes) : _Kind(std::move(iKind)), _Yes(iYes) {}
+  int IsAKindOf(const char* iName) const override
+  {
+    CallLog::Note(iName);
+    return _Kind == iName ? _Yes : 0;
+  }
+
+private:
+  std::string _Kind;
+  int _Yes;
+};
+
+//! What an adaptor with an implementation of a kind answers, and what it asked.
+std::pair<int, Calls> AggregateInSet(const char* iKind, int iYes = 1)
+{
+  ImplementationOfKind implementation(iKind, iYes);
+  EntityInit entity;
+  entity.SetImpl(&implementation);
+  const CallLog log;
+  const int answer = entity.AggregateInSet();
+  entity.SetImpl(nullptr);
+  return {answer, log.All()};
+}
 
 // No reference, array or report is left behind by any of the tests.
 class VOXEAnalysisEntityInitTest : public testing::Test
@@ -142,7 +171,7 @@ TEST_F(VOXEAnalysisEntityInitTest, TheWholeListOfChildrenIsLookedThrough)
 
 TEST_F(VOXEAnalysisEntityInitTest, TheObjectItselfIsAskedAndNotItsImplementation)
 {
-  const PlacementWorld<QueriedFace<VOXEAnalysisEntityInit, VOXISamAnalysisEntityInit>> world;
+  const PlacementWorld<QueriedEntityInit> world;
   world.Spec().type = "GroupSet";
   const auto entity = world.Tested();
   const CallLog log;
@@ -200,8 +229,14 @@ TEST_F(VOXEAnalysisEntityInitTest, AnImportedEntityMayAlsoBeAnAuthorizedChild)
 
 TEST_F(VOXEAnalysisEntityInitTest, ACategoryThatCannotBeReadMatchesNoImportedEntity)
 {
-  Faults::FailOperation("VOXAnalysisExplicitRulesData::GetPhysicalTypeCategory", 1, false);
-  EXPECT_EQ(Check("IMPORTED_LOAD", "LOADS"), 0);
+  const std::pair<const char*, const char*> pairs[] = {
+      {"IMPORTED_MATERIAL", "MATERIALS"},   {"IMPORTED_AXIS", "AXES"},  {"IMPORTED_PROPERTY", "PROPERTIES"},
+      {"IMPORTED_RESTRAINT", "RESTRAINTS"}, {"IMPORTED_LOAD", "LOADS"}, {"IMPORTED_MASS", "MASSES"}};
+  for (const auto& [imported, set] : pairs)
+  {
+    Faults::FailOperation("VOXAnalysisExplicitRulesData::GetPhysicalTypeCategory", 1, false);
+    EXPECT_EQ(Check(imported, set), 0) << imported;
+  }
 }
 
 TEST_F(VOXEAnalysisEntityInitTest, ChildrenThatCannotBeReadRefuse)
@@ -322,11 +357,39 @@ TEST_F(VOXEAnalysisEntityInitTest, SensorsAreAggregatedByTheirLateTypeWhateverTh
 
 TEST_F(VOXEAnalysisEntityInitTest, AggregationAsksForASensorFirstAndForAMeasureOnlyThen)
 {
-  Bench bench;
-  const VOXISamAnalysisEntityInit_var spEntity(bench.Component<EntityInit>());
+  using Asked = std::pair<int, Calls>;
+  EXPECT_EQ(AggregateInSet("AnalysisSensor"), (Asked{1, {"AnalysisSensor"}}));
+  EXPECT_EQ(AggregateInSet("MeasureWithProgram"), (Asked{1, {"AnalysisSensor", "MeasureWithProgram"}}));
+  EXPECT_EQ(AggregateInSet("AnalysisLoad"), (Asked{0, {"AnalysisSensor", "MeasureWithProgram"}}));
+}
+
+TEST_F(VOXEAnalysisEntityInitTest, AYesOfAnyValueAggregates)
+{
+  EXPECT_EQ(AggregateInSet("AnalysisSensor", 256).first, 1);
+  EXPECT_EQ(AggregateInSet("MeasureWithProgram", 256).first, 1);
+}
+
+TEST_F(VOXEAnalysisEntityInitTest, SetTypeAndAggregationAskTheImplementationAndNotTheObjectItself)
+{
+  const PlacementWorld<QueriedEntityInit> world;
+  const auto entity = world.Tested();
+  VOXUnicodeString setType;
   CallLog log;
-  EXPECT_EQ(spEntity->AggregateInSet(), 0);
-  EXPECT_EQ(log.Only({"VOXBaseUnknown::IsAKindOf"}), (Calls{"VOXBaseUnknown::IsAKindOf", "VOXBaseUnknown::IsAKindOf"}));
+  entity->GetAnalysisSetType(setType);
+  EXPECT_EQ(log.Only({"own "}), Calls{"own implementation(0)"});
+  log.Clear();
+  entity->AggregateInSet();
+  EXPECT_EQ(log.Only({"own "}), (Calls{"own implementation(0)", "own implementation(0)"}));
+}
+
+TEST_F(VOXEAnalysisEntityInitTest, NoOperationMakesAnErrorHandler)
+{
+  const auto entity = world->Tested();
+  const auto set = world->Set();
+  VOXUnicodeString setType;
+  EXPECT_EQ(ErrorHandlersDuring([&] { entity->CheckAnalysisSet(set); }), 0);
+  EXPECT_EQ(ErrorHandlersDuring([&] { entity->GetAnalysisSetType(setType); }), 0);
+  EXPECT_EQ(ErrorHandlersDuring([&] { entity->AggregateInSet(); }), 0);
 }
 
 TEST_F(VOXEAnalysisEntityInitTest, OperationsStandAtTheirPlaces)
@@ -359,7 +422,9 @@ TEST(VOXEAnalysisEntityInitTorture, CheckAnalysisSetSurvivesEveryFailure)
               world.Place(member, "LOADS");
               const auto entity = world.Tested();
               const auto set = world.Set();
-              ioRun.Call([&] { return entity->CheckAnalysisSet(set); });
+              const HRESULT answer = ioRun.Call([&] { return entity->CheckAnalysisSet(set); });
+              const bool belongs = std::string(member) != "STRANGER";
+              EXPECT_TRUE(answer == (belongs ? 1 : 0) || (belongs && ioRun.IsTortured()));
             });
 }
 

@@ -15,21 +15,24 @@ namespace
 using Subscriber = Face<VOXEAnalysisEntityPreproSubscriber, VOXISamMeshSubscriber>;
 
 //! An entity whose feature is held by a component of a late type.
-class HeldEntity
+template <class EntityFace>
+class EntityHeldBy
 {
 public:
-  explicit HeldEntity(const char* iFatherType) : _Entity(_Bench.Component<Subscriber, ScriptedSpecObject>())
+  explicit EntityHeldBy(const char* iFatherType) : _Entity(_Bench.Component<EntityFace, ScriptedSpecObject>())
   {
     if (iFatherType != nullptr)
       ScriptedSpecObject::ScriptOf(_Entity).father = _Bench.ComponentNamed<ScriptedSpecObject>(iFatherType);
   }
   VOXISamMeshSubscriber_var Tested() const { return VOXISamMeshSubscriber_var(_Entity); }
-  VOXBaseUnknown* Feature() const { return _Entity; }
+  SpecObjectScript& Spec() const { return ScriptedSpecObject::ScriptOf(_Entity); }
 
 private:
   Bench _Bench;
   VOXBaseUnknown* _Entity;
 };
+using HeldEntity = EntityHeldBy<Subscriber>;
+using Queried = QueriedFace<VOXEAnalysisEntityPreproSubscriber, VOXISamMeshSubscriber>;
 
 } // namespace
 
@@ -53,6 +56,39 @@ TEST(VOXEAnalysisEntityPreproSubscriber, WhatIsNoFeatureSubscribes)
 {
   AdaptorBench<Subscriber> subscriber;
   EXPECT_EQ(subscriber->CheckIfNeedToSubScribe(), 1);
+}
+
+TEST(VOXEAnalysisEntityPreproSubscriber, TheImplementationIsAskedAndNotTheObjectItself)
+{
+  const EntityHeldBy<Queried> entity("MSHSetContainer");
+  const auto tested = entity.Tested();
+  CallLog log;
+  EXPECT_EQ(tested->CheckIfNeedToSubScribe(), 0);
+  EXPECT_EQ(log.Only({"own "}), Calls{"own implementation(0)"});
+  log.Clear();
+  tested->Clean();
+  EXPECT_EQ(log.Only({"own "}), Calls{"own implementation(0)"});
+}
+
+TEST(VOXEAnalysisEntityPreproSubscriber, TheFathersImplementationIsAskedForItsClass)
+{
+  Bench bench;
+  VOXBaseUnknown* const father = bench.ComponentNamed<ScriptedSpecObject, Queried>("MSHSetContainer");
+  const VOXISamMeshSubscriber_var spFaceOfFather(father);
+  const HeldEntity entity("LoadSetOfTests");
+  entity.Spec().father = spFaceOfFather;
+  const auto tested = entity.Tested();
+  const CallLog log;
+  EXPECT_EQ(tested->CheckIfNeedToSubScribe(), 0);
+  EXPECT_EQ(log.Only({"own "}), Calls{"own implementation(0)"});
+}
+
+TEST(VOXEAnalysisEntityPreproSubscriber, NoOperationMakesAnErrorHandler)
+{
+  const HeldEntity entity("MSHSetContainer");
+  const auto tested = entity.Tested();
+  EXPECT_EQ(ErrorHandlersDuring([&] { tested->CheckIfNeedToSubScribe(); }), 0);
+  EXPECT_EQ(ErrorHandlersDuring([&] { tested->Clean(); }), 0);
 }
 
 TEST(VOXEAnalysisEntityPreproSubscriber, OnlyTheFatherIsAskedFor)

@@ -113,6 +113,43 @@ TEST_F(VOXEAnalysisVisibilityFathers, WhatIsNoFeatureHasNoList)
   EXPECT_EQ(FathersOf(bench.Component<Visibility>()), std::nullopt);
 }
 
+TEST_F(VOXEAnalysisVisibilityFathers, TheImplementationIsAskedForEachFaceAndNotTheObjectItself)
+{
+  using Queried = QueriedFace<VOXEAnalysisVisibility, VOXISamVisibility>;
+  VOXBaseUnknown* const queriedFeature = bench.Component<Queried, ScriptedSpecObject>();
+  VOXBaseUnknown* const queriedSet = bench.Component<Queried, ScriptedAnalysisSet>();
+  ScriptedSpecObject::ScriptOf(queriedFeature).father = father;
+  ScriptedAnalysisSet::ScriptOf(queriedSet).shownUnder = Objects{father};
+  CallLog log;
+  EXPECT_EQ(FathersOf(queriedFeature), Objects{father});
+  EXPECT_EQ(log.Only({"own "}), (Calls{"own implementation(0)", "own implementation(0)", "own implementation(0)"}));
+  log.Clear();
+  EXPECT_EQ(FathersOf(queriedSet), Objects{father});
+  EXPECT_EQ(log.Only({"own "}), (Calls{"own implementation(0)", "own implementation(0)"}));
+}
+
+TEST_F(VOXEAnalysisVisibilityFathers, TheFatherIsAskedForItsImplementationOnce)
+{
+  using Queried = QueriedFace<VOXEAnalysisVisibility, VOXISamVisibility>;
+  VOXBaseUnknown* const queriedFather = bench.Component<Queried>();
+  const VOXISamVisibility_var spFaceOfFather(queriedFather);
+  ScriptedSpecObject::ScriptOf(feature).father = spFaceOfFather;
+  ScriptedAnalysisEntity::ScriptOf(entity).set = spFaceOfFather;
+  for (VOXBaseUnknown* const shown : {feature, entity})
+  {
+    const CallLog log;
+    EXPECT_EQ(FathersOf(shown), Objects{queriedFather});
+    EXPECT_EQ(log.Only({"own "}), Calls{"own implementation(0)"});
+  }
+}
+
+TEST_F(VOXEAnalysisVisibilityFathers, NoErrorHandlerIsMade)
+{
+  ScriptedSpecObject::ScriptOf(feature).father = father;
+  for (VOXBaseUnknown* const shown : {entity, set, feature})
+    EXPECT_EQ(ErrorHandlersDuring([&] { FathersOf(shown); }), 0);
+}
+
 TEST_F(VOXEAnalysisVisibilityFathers, TheFathersReferencesAreGivenBack)
 {
   const long before = Bench::References(father);

@@ -97,7 +97,8 @@ void ScriptedViewManager::Show(VOXBaseUnknown* iObject, int iView)
 
 void ScriptedViewManager::UpdateShowStatus(int iMode)
 {
-  CallLog::Enter("VOXISamViewManager::UpdateShowStatus", iMode);
+  if (!CallLog::Enter("VOXISamViewManager::UpdateShowStatus", iMode) && Told().whenTold)
+    Told().whenTold();
 }
 
 void ScriptedRedrawEvent::RequestRedraw()

@@ -98,11 +98,12 @@ public:
   HRESULT ListMembers(const char* iInterfaceName, VOXListValVOXISpecObject_var& oMembers, int iMode) const override;
 };
 
-//! What happens while a scripted VOXISamViewManager shows an object.
+//! What happens while a scripted VOXISamViewManager is called.
 struct ViewManagerScript
 {
   std::map<const VOXBaseUnknown*, std::string> names; //!< of the objects, for the record
   std::function<void(VOXBaseUnknown* iObject, int iView)> whenShown;
+  std::function<void()> whenTold; //!< of a new no-show status
 };
 
 class ScriptedViewManager : public Scripted<VOXISamViewManager, ViewManagerScript>
