@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <utility>
 
@@ -79,6 +80,8 @@ std::vector<Group> ProgramGroups(const json& iOutput)
   return groups;
 }
 
+constexpr std::size_t kCountedDecks = 355; // of the package in the version that the golden list was made with
+
 class AllDecksSlow : public testing::Test
 {
 protected:
@@ -150,6 +153,29 @@ TEST_F(AllDecksSlow, AxesOwnersChoicesAndConnectionsOfEachAreTold)
     const auto owner = voxtest::RunInProcess({"owner", deck, "2", "--json"});
     EXPECT_EQ(owner.code, readable) << deck;
   }
+}
+
+TEST_F(AllDecksSlow, TheCheckOfAllFindsWhatTheGoldenListCounts)
+{
+  std::map<std::string, int> findings;
+  std::size_t readable = 0;
+  for (const std::string& deck : decks)
+  {
+    const auto run = voxtest::RunInProcess({"check", deck, "--json"});
+    ASSERT_TRUE(run.code == 0 || run.code == 1 || run.code == 3) << deck << ": " << run.errors;
+    if (run.code == 3)
+      continue;
+    ++readable;
+    const json rules = json::parse(run.out)["rules"];
+    for (const auto& [rule, number] : rules.items())
+      findings[rule] += number.get<int>();
+  }
+  if (decks.size() != kCountedDecks)
+    GTEST_SKIP() << "the golden list counts " << kCountedDecks << " decks, here are " << decks.size();
+  std::string counted = std::to_string(readable) + " decks\n";
+  for (const auto& [rule, number] : findings)
+    counted += rule + " " + std::to_string(number) + "\n";
+  EXPECT_EQ(voxtest::DifferenceToGolden("decks.check.txt", counted), "");
 }
 
 TEST_F(AllDecksSlow, TheHostGetsBackAllThatItGave)

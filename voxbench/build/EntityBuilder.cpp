@@ -46,6 +46,24 @@ const char* PhysicalTypeOf(const AppliedCard& iLoad)
   return "THERMAL_LOAD";
 }
 
+//! Nodes whose temperature or pressure drives a film (F2FC) or a pressure (P2NP): they stand where a value might.
+std::vector<std::int32_t> FluidNodesOf(const AppliedCard& iCard, const NeutralModel& iRecords)
+{
+  std::vector<std::int32_t> nodes;
+  for (const AppliedRow& row : iCard.rows)
+  {
+    const std::string label = row.label < 0 ? std::string() : iRecords.names[static_cast<std::size_t>(row.label)];
+    const bool isDriven = label.find("FC") != std::string::npos || label.find("NP") != std::string::npos;
+    const auto values = iCard.ValuesOf(row);
+    if (!isDriven || values.empty() || !(values[0] >= 1. && values[0] < 2147483648.))
+      continue;
+    const auto node = static_cast<std::int32_t>(values[0]);
+    if (nodes.empty() || nodes.back() != node)
+      nodes.push_back(node);
+  }
+  return nodes;
+}
+
 } // namespace
 
 ModelBuilder::Pair ModelBuilder::MakeEntity(const Pair& iSet, const Plan& iPlan, const std::string& iKeyword,
@@ -162,6 +180,10 @@ voxhost::Feature& ModelBuilder::BuildApplied(const Pair& iSet, const char* iType
       supports.push_back(group->feature);
     }
   }
+  if (iCard.replaces)
+    entity.feature->Set("Replaces", std::int32_t{1});
+  if (std::vector<std::int32_t> nodes = FluidNodesOf(iCard, _Records); !nodes.empty())
+    entity.feature->Set("FluidNodes", std::move(nodes));
   NoteMissing(*entity.feature, missing);
   Finish(entity, targets, supports);
   return *entity.feature;

@@ -82,6 +82,13 @@ std::vector<voxhost::Feature*> LoadedModel::ComponentsOf(const voxhost::Feature&
   return HeldBy(iFeature, true);
 }
 
+std::string LoadedModel::PathOf(const voxhost::Feature& iFeature)
+{
+  const voxhost::Feature* const father = iFeature.Father();
+  const std::string name = DisplayName(iFeature);
+  return father == nullptr ? name : PathOf(*father) + "/" + name;
+}
+
 std::string LoadedModel::DisplayName(const voxhost::Feature& iFeature)
 {
   const VOXUnicodeString alias = iFeature.Text("Alias");

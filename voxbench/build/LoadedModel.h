@@ -50,6 +50,15 @@ public:
   //! The basic components that a feature holds, in the order of its attributes.
   static std::vector<voxhost::Feature*> ComponentsOf(const voxhost::Feature& iFeature);
 
+  //! What an element is, by its place in the mesh.
+  ElementFamily FamilyOf(std::size_t iElement) const
+  {
+    return _Records.elementTypes[_Explicit->Mesh().elementTypes[iElement]].family;
+  }
+
+  //! Names from the analysis model down to a feature, "/" between them.
+  static std::string PathOf(const voxhost::Feature& iFeature);
+
   //! The alias; of a feature without one, its name.
   static std::string DisplayName(const voxhost::Feature& iFeature);
 

@@ -53,6 +53,14 @@ private:
     std::string alias;
   };
 
+  //! What one side of a connection stands on.
+  struct SideTargets
+  {
+    std::vector<std::string> names; //!< of sets and surfaces
+    std::vector<std::int32_t> nodes;
+    std::int32_t element = 0; //!< 0 for none
+  };
+
   Pair Make(const Pair& iParent, const Plan& iPlan);
   Pair MakeSet(const char* iType, const char* iPhysicalType, const char* iName);
   Pair MakeEntity(const Pair& iSet, const Plan& iPlan, const std::string& iKeyword, std::int32_t iStep);
@@ -81,8 +89,10 @@ private:
   void AddConstraint(const MultiPointConstraint& iConstraint, ApplyToUnion& ioTargets,
                      std::vector<voxhost::Feature*>& ioSupports) const;
   void BuildConnections();
-  void BuildSide(const Pair& iConnection, int iNumber, const std::string& iTarget,
-                 const std::vector<std::int32_t>& iNodes);
+  void BuildFromReferenceNode(const Pair& iMade, const Connection& iConnection);
+  void BuildSide(const Pair& iConnection, int iNumber, const SideTargets& iTargets);
+  static SideTargets FirstFields(const CardRecord& iCard);
+  static std::string NameOfSide(const SideTargets& iTargets);
   using ComponentValues = std::vector<std::pair<std::string, double>>; // by type of the component
   void ChooseSectionKind(voxhost::Feature& ioProperty, const Section& iSection);
   void ChooseRestraintKind(voxhost::Feature& ioRestraint, const AppliedCard& iCard);

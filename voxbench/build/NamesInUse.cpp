@@ -73,6 +73,11 @@ std::unordered_set<std::string> NamesInUse(const NeutralModel& iRecords)
     names.Add(connection.card);
   for (const OutputRequest& request : iRecords.outputRequests)
     names.Add(request.card);
+  for (const Step& step : iRecords.steps)
+  {
+    names.Add(step.card);
+    names.Add(step.procedure);
+  }
   for (const CardRecord& card : iRecords.otherCards)
     names.Add(card);
   return names.Take();

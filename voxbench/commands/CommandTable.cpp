@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/AxesCommand.h"
+#include "voxbench/commands/CheckCommand.h"
 #include "voxbench/commands/ConnectionsCommand.h"
 #include "voxbench/commands/GroupsCommand.h"
 #include "voxbench/commands/InfoCommand.h"
@@ -22,9 +23,9 @@ std::unique_ptr<Command> Make()
 
 const std::vector<CommandFactory>& CommandTable()
 {
-  static const std::vector<CommandFactory> table{Make<InfoCommand>,       Make<TreeCommand>,  Make<GroupsCommand>,
-                                                 Make<AxesCommand>,       Make<OwnerCommand>, Make<ParamsCommand>,
-                                                 Make<ConnectionsCommand>};
+  static const std::vector<CommandFactory> table{Make<InfoCommand>,   Make<TreeCommand>,       Make<GroupsCommand>,
+                                                 Make<CheckCommand>,  Make<AxesCommand>,       Make<OwnerCommand>,
+                                                 Make<ParamsCommand>, Make<ConnectionsCommand>};
   return table;
 }
 

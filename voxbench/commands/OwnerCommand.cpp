@@ -13,13 +13,6 @@ namespace voxbench
 namespace
 {
 
-std::string PathOf(const voxhost::Feature& iFeature)
-{
-  const voxhost::Feature* const father = iFeature.Father();
-  const std::string name = LoadedModel::DisplayName(iFeature);
-  return father == nullptr ? name : PathOf(*father) + "/" + name;
-}
-
 //! Why an object has no owner: who made the nearest object above it.
 std::string Remark(const LoadedModel& iModel, const VOXAnalysisExplicitParent& iObject)
 {
@@ -29,7 +22,7 @@ std::string Remark(const LoadedModel& iModel, const VOXAnalysisExplicitParent& i
   {
     above = *parents.First();
     if (const voxhost::Feature* const owner = OwnerOf(iModel, above))
-      return fmt::format("no feature; it stands below what {} made", PathOf(*owner));
+      return fmt::format("no feature; it stands below what {} made", LoadedModel::PathOf(*owner));
   }
   return "no feature";
 }
@@ -52,7 +45,7 @@ OwnerRow RowOf(const LoadedModel& iModel, std::string iAsked, const VOXAnalysisE
     row.remark = Remark(iModel, iObject);
     return row;
   }
-  row.owner = PathOf(*owner);
+  row.owner = LoadedModel::PathOf(*owner);
   row.ownerType = owner->Type().Name();
   return row;
 }

@@ -70,10 +70,20 @@ TypeDeclaration Property(const char* iName)
   return property;
 }
 
+//! What a card applies. A card may take away all earlier ones of its keyword, and let nodes of a fluid drive what it
+//! applies.
+TypeDeclaration Applied(const char* iName, const char* iBase)
+{
+  TypeDeclaration applied = Entity(iName, iBase);
+  applied.attributes.push_back({.name = "Replaces", .type = VOXSpecInteger});
+  applied.attributes.push_back({.name = "FluidNodes", .type = VOXSpecList, .elementType = VOXSpecInteger});
+  return applied;
+}
+
 //! What holds degrees of freedom.
 TypeDeclaration Restraint(const char* iName)
 {
-  TypeDeclaration restraint = Entity(iName, "AnalysisRestraint");
+  TypeDeclaration restraint = Applied(iName, "AnalysisRestraint");
   restraint.attributes.push_back(Choice(kRestraintKindType));
   return restraint;
 }
@@ -104,7 +114,7 @@ std::vector<TypeDeclaration> OwnTypes()
           Group(kElementGroupType),
           Group(kMaterialGroupType),
           Entity(kMaterialType, "AnalysisEntity"),
-          Entity(kLoadType, "AnalysisLoad"),
+          Applied(kLoadType, "AnalysisLoad"),
           Restraint(kRestraintType),
           Axis(kAxisType),
           Entity(kConnectionType, "AnalysisConnection"),
