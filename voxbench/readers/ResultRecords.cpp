@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "ResultRecords.h"
+
+namespace voxbench
+{
+
+const char* NameOf(ResultKind iKind)
+{
+  switch (iKind)
+  {
+  case ResultKind::Static:
+    return "static";
+  case ResultKind::Time:
+    return "time";
+  case ResultKind::Mode:
+    return "mode";
+  case ResultKind::Buckling:
+    return "buckling";
+  case ResultKind::Frequency:
+    break;
+  }
+  return "frequency";
+}
+
+} // namespace voxbench
