@@ -37,7 +37,8 @@ private:
   friend class ::VOXAnalysisCharacCollector; // which keeps a reference on its archiver
   friend class VOXExplicitAccess;            // the host's
 
-  //! An archive of the given time stamp, with one reference for the creator.
+  //! An archive of the given time stamp, with one reference for the creator; not streamable when its storage cannot be
+  //! made.
   explicit VOXAnalysisCollectorArchiver(const int& iTimeStamp);
 
   //! The reference count afterwards. At 0 the archiver is destroyed.

@@ -28,6 +28,8 @@ VOXAnalysisCollectorArchiver::VOXAnalysisCollectorArchiver(const int& iTimeStamp
                                 static_cast<unsigned char>(g_newAreStreamable ? 1 : 0), 0})
 {
   voxhost::Ledger::ArchiverBorn();
+  if (voxhost::Faults::Enter("VOXAnalysisCollectorArchiver::VOXAnalysisCollectorArchiver"))
+    _Data->streamable = 0;
 }
 
 VOXAnalysisCollectorArchiver::~VOXAnalysisCollectorArchiver()

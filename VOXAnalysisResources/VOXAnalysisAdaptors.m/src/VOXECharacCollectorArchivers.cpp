@@ -64,12 +64,11 @@ struct Area
     return counted && Leaf(iType, iSlot) != nullptr ? nbPositions[iType][iSlot] : 0;
   }
 
-  // Whether the area has that place, and in the half of the slots that the variant flag selects.
+  // Plain versions have the first half of the slots: one that the feature offers only now has no place among the variants.
   bool Holds(int iType, int iSlot, int iPosition, bool iIsVariant) const
   {
-    const int nbVersions = Slots(iType) / 2;
-    const int first = iIsVariant ? nbVersions : 0;
-    return iSlot >= first && iSlot < first + nbVersions && iPosition < Positions(iType, iSlot);
+    const int end = iIsVariant ? Slots(iType) : Slots(iType) / 2;
+    return iSlot < end && iPosition < Positions(iType, iSlot);
   }
 };
 
@@ -112,7 +111,8 @@ int IndexOf(const VOXString& iPosition, const VOXString* iPositions, int iCount)
 }
 
 // First match in version order, then in position order. The variant flag takes no part in the comparison of versions:
-// Kept: any flag that is not 0 selects the second half of the slots.
+// Kept: any flag that is not 0 selects the second half of the slots, which begins behind the versions offered now, not
+// behind those that the area was built for.
 HRESULT LocateInType(const VOXICharacCollector_var& iFeature, int iPhysicalType, const VOXSamCharacVersion& iVersion,
                      const VOXString& iPosition, Place& oPlace)
 {
