@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/AnalysisCore/TraceLog.h"
 
+namespace
+{
+
+void (*g_listener)(const std::string& iCall) = nullptr;
+
+} // namespace
+
 struct VOXTraceData
 {
   std::string name;
@@ -9,8 +16,16 @@ struct VOXTraceData
   bool keepsEverything = false;
   int level = 0;
 
-  int Put(const char* iText, const std::string& iEnd)
+  void Tell(const std::string& iCall) const
   {
+    if (g_listener != nullptr)
+      g_listener(name + "::" + iCall);
+  }
+
+  int Put(const char* iOperation, const char* iText, const std::string& iEnd)
+  {
+    if (g_listener != nullptr)
+      Tell(std::string(iOperation) + "(" + (iText != nullptr ? iText : "") + ")");
     const std::string put = (iText != nullptr ? iText : "") + iEnd;
     if (active || keepsEverything)
       text += put;
@@ -39,12 +54,12 @@ int VOXTrace::IsActive()
 
 int VOXTrace::TraPut(const char* iText)
 {
-  return _Data->Put(iText, "");
+  return _Data->Put("TraPut", iText, "");
 }
 
 int VOXTrace::TraPutLN(const char* iText)
 {
-  return _Data->Put(iText, "\n");
+  return _Data->Put("TraPutLN", iText, "\n");
 }
 
 int VOXTrace::TraPutLN(const char* iText, int iNumber)
@@ -52,11 +67,12 @@ int VOXTrace::TraPutLN(const char* iText, int iNumber)
   std::string end(1, ' ');
   end += std::to_string(iNumber);
   end += '\n';
-  return _Data->Put(iText, end);
+  return _Data->Put("TraPutLN", iText, end);
 }
 
 void VOXTrace::SetOutputLevel(int iLevel)
 {
+  _Data->Tell("SetOutputLevel(" + std::to_string(iLevel) + ")");
   _Data->level = iLevel;
 }
 
@@ -83,4 +99,9 @@ void VOXTraceAccess::KeepEverything(VOXTrace& ioTrace, bool iKeep)
 int VOXTraceAccess::Level(const VOXTrace& iTrace)
 {
   return iTrace._Data->level;
+}
+
+void VOXTraceAccess::Listen(void (*iListener)(const std::string& iCall))
+{
+  g_listener = iListener;
 }

@@ -22,4 +22,8 @@ public:
 
   //! Output level in force.
   static int Level(const VOXTrace& iTrace);
+
+  //! Calls iListener with every put and every setting of a level, on any channel, active or not: its name and operation,
+  //! and the text or the level, such as "SAMTraceDebug::TraPut(Adding)". Null for none.
+  static void Listen(void (*iListener)(const std::string& iCall));
 };

@@ -98,7 +98,7 @@ struct LayeredComponent
 {
   VOXISpecAttrAccess* piAccess; // borrowed
   const VOXISpecAttrKey* piKey; // of its values, borrowed
-  VOXIContainer_var spContainer;
+  const VOXIContainer_var& spContainer;
   int nbLayers;
 };
 

@@ -116,6 +116,21 @@ TEST(FatalErrorDeathTest, WritesItsTextAndEndsTheProcess)
                "AssertionFailed:!!spec \\(file:3\\)");
 }
 
+TEST(TraceChannel, TellsItsListenerEveryPutAndLevelWhetherActiveOrNot)
+{
+  static std::vector<std::string> heard;
+  heard.clear();
+  VOXTraceAccess::Listen([](const std::string& iCall) { heard.push_back(iCall); });
+  VOXTrace trace("test");
+  trace.SetOutputLevel(2);
+  trace.TraPut("Adding");
+  trace.TraPutLN("answer", 1);
+  VOXTraceAccess::Listen(nullptr);
+  trace.TraPut("unheard");
+  EXPECT_EQ(heard,
+            (std::vector<std::string>{"test::SetOutputLevel(2)", "test::TraPut(Adding)", "test::TraPutLN(answer)"}));
+}
+
 TEST(TraceChannel, KeepsWhatIsPutWhileItIsActive)
 {
   VOXTrace trace("test");
