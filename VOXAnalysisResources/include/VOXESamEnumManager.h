@@ -18,7 +18,8 @@ public:
   VOXESamEnumManager(const VOXESamEnumManager&) = delete;
   VOXESamEnumManager& operator=(const VOXESamEnumManager&) = delete;
 
-  //! The class's own description, registered at the first request. Borrowed.
+  //! The class's own description, registered at the first request. Borrowed; null when the runtime cannot register it:
+  //! identifier and name are then those of VOXBaseUnknown, the class test answers 0.
   static VOXMetaClass* MetaObject();
   static const IID& ClassId();
   static const char* ClassName();

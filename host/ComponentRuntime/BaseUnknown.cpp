@@ -251,9 +251,10 @@ void VOXBaseUnknown::operator delete(void* iMemory)
 
 VOXMetaClass* VOXBaseUnknown::MetaObject()
 {
-  static VOXMetaClass* const meta =
-      fct_RetrieveMetaObject("VOXBaseUnknown", VOXTypeImplementation, nullptr, "VOXBaseUnknown", "vox_host",
-                             static_cast<int>(sizeof(VOXBaseUnknown)));
+  static VOXMetaClass* meta = nullptr;
+  if (meta == nullptr) // a registration that was made to fail is tried again
+    meta = fct_RetrieveMetaObject("VOXBaseUnknown", VOXTypeImplementation, nullptr, "VOXBaseUnknown", "vox_host",
+                                  static_cast<int>(sizeof(VOXBaseUnknown)));
   return meta;
 }
 

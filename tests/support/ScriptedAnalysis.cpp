@@ -49,6 +49,8 @@ HRESULT ScriptedAnalysisEntity::ListByRole(VOXListValVOXBaseUnknown_var*& oObjec
   if (CallLog::Enter("VOXISamAnalysisEntity::ListByRole", role))
     return E_FAIL;
   const AnalysisEntityScript& told = Told();
+  if (told.whenAskedForRole)
+    told.whenAskedForRole(role);
   if (const auto found = told.roles.find(role); found != told.roles.end())
     oObjects = NewList(found->second);
   const auto result = told.roleResults.find(role);
@@ -83,7 +85,29 @@ HRESULT ScriptedAnalysisSet::ListMembers(const char* iInterfaceName, VOXListValV
     return E_FAIL;
   for (VOXBaseUnknown* const member : Told().members)
     oMembers.Append(VOXISpecObject_var(member));
+  if (Told().whenListed)
+    Told().whenListed(oMembers);
   return S_OK;
+}
+
+HRESULT ScriptedAnalysisSupport::ListSupports(VOXListValVOXBaseUnknown_var& ioSupports, const CLSID& iType) const
+{
+  const bool isAll = iType == CLSID_VOXBaseUnknown;
+  if (CallLog::Enter("VOXISamAnalysisSupport::ListSupports", isAll ? "all" : "some"))
+    return E_FAIL;
+  for (VOXBaseUnknown* const support : Told().supports)
+    ioSupports.Append(VOXBaseUnknown_var(support));
+  return Told().result;
+}
+
+HRESULT ScriptedMeshPartFilter::ListDesigners(VOXListValVOXISpecObject_var*& oDesigners) const
+{
+  if (CallLog::Enter("VOXISamMeshPartFilter::ListDesigners"))
+    return E_FAIL;
+  oDesigners = Told().designers ? new VOXListValVOXISpecObject_var : nullptr;
+  for (VOXBaseUnknown* const designer : Told().designers.value_or(Objects()))
+    oDesigners->Append(VOXISpecObject_var(designer));
+  return Told().result;
 }
 
 void ScriptedViewManager::Show(VOXBaseUnknown* iObject, int iView)

@@ -3,6 +3,8 @@
 
 #include "AnalysisInterfaces/VOXISamAnalysisEntity.h"
 #include "AnalysisInterfaces/VOXISamAnalysisSet.h"
+#include "AnalysisInterfaces/VOXISamAnalysisSupport.h"
+#include "AnalysisInterfaces/VOXISamMeshPartFilter.h"
 #include "AnalysisInterfaces/VOXISamViewManager.h"
 #include "ObjectModeler/VOXIRedrawEvent.h"
 #include "tests/support/Scripted.h"
@@ -30,6 +32,7 @@ struct AnalysisEntityScript
   HRESULT roleResult = S_OK;         //!< of roles that are not in the results
   std::map<std::string, HRESULT> roleResults;
   std::map<std::string, Objects> roles; //!< a role that is not here gives no list, whatever the result
+  std::function<void(const std::string& iRole)> whenAskedForRole;
 };
 
 class ScriptedAnalysisEntity : public Scripted<VOXISamAnalysisEntity, AnalysisEntityScript>
@@ -62,6 +65,7 @@ struct AnalysisSetScript
   std::optional<Objects> shownUnder; //!< none: no list is given
   std::map<std::string, VOXBaseUnknown*> membersByName;
   Objects members; //!< what a listing by interface gives
+  std::function<void(VOXListValVOXISpecObject_var&)> whenListed;
 };
 
 class ScriptedAnalysisSet : public Scripted<VOXISamAnalysisSet, AnalysisSetScript>
@@ -96,6 +100,32 @@ public:
   HRESULT ListShownUnder(VOXListValVOXBaseUnknown_var*& oFathers) const override;
   HRESULT GetMemberByName(const VOXUnicodeString& iName, VOXISpecObject_var& oMember, int iMode) const override;
   HRESULT ListMembers(const char* iInterfaceName, VOXListValVOXISpecObject_var& oMembers, int iMode) const override;
+};
+
+//! What a scripted VOXISamAnalysisSupport answers.
+struct AnalysisSupportScript
+{
+  Objects supports; //!< appended
+  HRESULT result = S_OK;
+};
+
+class ScriptedAnalysisSupport : public Scripted<VOXISamAnalysisSupport, AnalysisSupportScript>
+{
+public:
+  HRESULT ListSupports(VOXListValVOXBaseUnknown_var& ioSupports, const CLSID& iType) const override;
+};
+
+//! What a scripted VOXISamMeshPartFilter answers.
+struct MeshPartFilterScript
+{
+  std::optional<Objects> designers; //!< none: the caller's pointer is set to null
+  HRESULT result = S_OK;
+};
+
+class ScriptedMeshPartFilter : public Scripted<VOXISamMeshPartFilter, MeshPartFilterScript>
+{
+public:
+  HRESULT ListDesigners(VOXListValVOXISpecObject_var*& oDesigners) const override;
 };
 
 //! What happens while a scripted VOXISamViewManager is called.

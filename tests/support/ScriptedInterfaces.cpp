@@ -54,6 +54,10 @@ HRESULT ScriptedExplicit::ListTags(VOXRawCollint& ioTags) const
 {
   if (CallLog::Enter("VOXISamExplicit::ListTags"))
     return E_FAIL;
+  if (Told().whenAskedForTags)
+    Told().whenAskedForTags(ioTags);
+  if (Told().replacesTags)
+    ioTags.RemoveAll(0);
   for (const int tag : Told().tags)
     ioTags.Append(tag);
   return S_OK;

@@ -22,6 +22,8 @@ struct ExplicitScript
   VOXAnalysisExplicitParent parent;
   HRESULT parentResult = S_OK; //!< a failure leaves the caller's handle untouched
   std::vector<int> tags;
+  bool replacesTags = false; //!< whether a listing empties the caller's list first; the contract says that it appends
+  std::function<void(const VOXRawCollint& iSoFar)> whenAskedForTags;
   std::vector<VOXAnalysisExplicitParent> parents;
   unsigned char activity = 1;
   std::function<void()> whenAskedForParent; //!< something that happens meanwhile: a call back into the adaptor, say

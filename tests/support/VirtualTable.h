@@ -28,6 +28,16 @@ int OwnPlace(Member iMember)
   return entry + 1 - (kBaseOperations - 1 + kEntriesOfDestructor);
 }
 
+//! Whether an operation is reached through the virtual table at all.
+template <class Member>
+bool IsVirtual(Member iMember)
+{
+  std::ptrdiff_t place = 0;
+  static_assert(sizeof(iMember) == 2 * sizeof(place), "a pointer to a member function");
+  std::memcpy(&place, &iMember, sizeof(place));
+  return (place & 1) != 0;
+}
+
 //! Calls own operation iOwn (from 1) of an object through its place in the virtual table, as compiled code of the host
 //! does: it knows nothing but the place and the arguments.
 //! @code CallOwn<HRESULT, unsigned char&>(piControl, 1, allowed); @endcode

@@ -98,14 +98,18 @@ VOXMetaClass* VOXESamEnumManager::MetaObject()
   return meta_object;
 }
 
+// As long as the runtime cannot register the class, it answers as its base does, and the next request tries again.
+
 const IID& VOXESamEnumManager::ClassId()
 {
-  return MetaObject()->GetClassId();
+  const VOXMetaClass* const registered = MetaObject();
+  return registered != nullptr ? registered->GetClassId() : VOXBaseUnknown::ClassId();
 }
 
 const char* VOXESamEnumManager::ClassName()
 {
-  return MetaObject()->IsA();
+  const VOXMetaClass* const registered = MetaObject();
+  return registered != nullptr ? registered->IsA() : VOXBaseUnknown::ClassName();
 }
 
 VOXMetaClass* VOXESamEnumManager::GetMetaObject() const
@@ -120,7 +124,8 @@ const char* VOXESamEnumManager::IsA() const
 
 int VOXESamEnumManager::IsAKindOf(const char* iName) const
 {
-  return MetaObject()->IsAKindOf(iName);
+  const VOXMetaClass* const registered = MetaObject();
+  return registered != nullptr ? registered->IsAKindOf(iName) : 0;
 }
 
 VOXBaseUnknown* VOXESamEnumManager::CreateItself()
