@@ -157,18 +157,29 @@ TEST(GroupsReportText, LongListsOfEntitiesAreBrokenIntoLines)
   EXPECT_EQ(members, 1000);
 }
 
+TreeNode SmallTree()
+{
+  const TreeNode loads{.name = "Loads", .type = "LoadSet", .hidden = 3};
+  const TreeNode group{.name = "FIX",
+                       .type = "G",
+                       .setType = "GroupSet",
+                       .entities = 12345,
+                       .view = voxbench::ViewState{.inGraph = true, .noShow = true}};
+  return {.name = "Model", .type = "AnalysisModel", .children = {loads, group}};
+}
+
 TEST(TreeReportText, IndentsByTwoBlanksPerLevel)
 {
-  const TreeNode root{"Model", "AnalysisModel", {}, 0, {{"Loads", "LoadSet", {}, 3, {}}, {"FIX", "G", 12345, 0, {}}}};
+  const TreeNode root = SmallTree();
   EXPECT_EQ(Written([&](Output& ioOutput) { PrintTree(ioOutput, root); }),
             "Model    AnalysisModel\n"
-            "  Loads  LoadSet                3 features below\n"
-            "  FIX    G              12 345\n");
+            "  Loads  LoadSet                                          3 features below\n"
+            "  FIX    G              GroupSet  12 345  graph, no show\n");
 }
 
 TEST(TreeReportJson, KeepsItsSchema)
 {
-  const TreeNode root{"Model", "AnalysisModel", {}, 0, {{"Loads", "LoadSet", {}, 3, {}}, {"FIX", "G", 12345, 0, {}}}};
+  const TreeNode root = SmallTree();
   const json tree = json::parse(Written([&](Output& ioOutput) { WriteTreeJson(ioOutput, root); }));
   EXPECT_EQ(voxtest::Violations(voxtest::SchemaOf("tree"), tree), std::vector<std::string>{});
   EXPECT_EQ(tree["tree"]["children"][0]["hidden"], 3);

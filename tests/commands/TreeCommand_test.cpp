@@ -72,6 +72,21 @@ TEST(TreeCommand, EveryEntityOfTheDeckIsAFeatureOfItsSet)
   EXPECT_EQ(ChildOf(root, "Sensors")["children"].size(), 2u);
 }
 
+TEST(TreeCommand, AnEntityTellsTheTypeOfItsSetAndASetNone)
+{
+  const json root = TreeOf({kDeck});
+  EXPECT_EQ(ChildOf(root, "Loads")["set"], nullptr);
+  EXPECT_EQ(ChildOf(root, "Loads")["children"][0]["set"], "LoadSet");
+  EXPECT_EQ(ChildOf(root, "Groups")["children"][0]["set"], "GroupSet");
+}
+
+TEST(TreeCommand, EveryFeatureIsVisibleAtFirst)
+{
+  const json load = ChildOf(TreeOf({kDeck}), "Loads")["children"][0];
+  EXPECT_EQ(load["visible"], (json{{"graph", true}, {"3d", true}}));
+  EXPECT_EQ(load["noShow"], false);
+}
+
 TEST(TreeCommand, DepthLeavesOutLowerLevelsAndCountsThem)
 {
   const json root = TreeOf({kDeck, "--depth", "1"});

@@ -7,6 +7,7 @@
 #include "voxbench/commands/OwnerCommand.h"
 #include "voxbench/commands/ParamsCommand.h"
 #include "voxbench/commands/TreeCommand.h"
+#include "voxbench/commands/ViewCommands.h"
 
 namespace voxbench
 {
@@ -23,9 +24,9 @@ std::unique_ptr<Command> Make()
 
 const std::vector<CommandFactory>& CommandTable()
 {
-  static const std::vector<CommandFactory> table{Make<InfoCommand>,   Make<TreeCommand>,       Make<GroupsCommand>,
-                                                 Make<CheckCommand>,  Make<AxesCommand>,       Make<OwnerCommand>,
-                                                 Make<ParamsCommand>, Make<ConnectionsCommand>};
+  static const std::vector<CommandFactory> table{
+      Make<InfoCommand>,  Make<TreeCommand>,   Make<GroupsCommand>,      Make<CheckCommand>, Make<AxesCommand>,
+      Make<OwnerCommand>, Make<ParamsCommand>, Make<ConnectionsCommand>, Make<ShowCommand>,  Make<HideCommand>};
   return table;
 }
 

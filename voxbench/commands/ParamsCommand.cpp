@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/ParamsCommand.h"
+#include "voxbench/commands/FeatureNames.h"
 #include "voxbench/commands/SelectionLists.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <fmt/format.h>
-#include <fnmatch.h>
 
 namespace voxbench
 {
@@ -19,15 +19,9 @@ struct Holder
   voxhost::Feature* choice;
 };
 
-bool IsWanted(const voxhost::Feature& iFeature, const std::string& iName)
-{
-  return iName.empty() || fnmatch(iName.c_str(), LoadedModel::DisplayName(iFeature).c_str(), FNM_CASEFOLD) == 0 ||
-         fnmatch(iName.c_str(), iFeature.Name(), FNM_CASEFOLD) == 0;
-}
-
 void Gather(voxhost::Feature& iFeature, const std::string& iName, std::vector<Holder>& ioHolders)
 {
-  if (IsWanted(iFeature, iName))
+  if (iName.empty() || IsNamed(iFeature, iName))
     for (voxhost::Feature* const component : LoadedModel::ComponentsOf(iFeature))
       if (component->Type().IsSubTypeOf("SAMListManager"))
         ioHolders.push_back({&iFeature, component});
@@ -59,7 +53,7 @@ void ParamsCommand::DeclareOptions(CLI::App& ioParser)
 {
   _File.Declare(ioParser);
   CLI::Option* const feature = ioParser.add_option(
-      "FEATURE", _Feature, "Only features of that name; * and ? stand for any text and any character");
+      "FEATURE", _Feature, "Only features of that name or path; * and ? stand for any text or character");
   feature->option_text(" ");
   ioParser.add_option("--set", _Value, "Select another entry, by its name or index")
       ->needs(feature)

@@ -16,7 +16,8 @@ void AddRows(TextTable& ioTable, const TreeNode& iNode, std::size_t iLevel)
   if (iNode.hidden > 0)
     remark = Counted(iNode.hidden, "feature", "features") + " below";
   const std::string entities = iNode.entities ? Grouped(*iNode.entities) : "";
-  ioTable.Add({std::string(2 * iLevel, ' ') + iNode.name, iNode.type, entities, remark});
+  const std::string view = iNode.view ? WordsFor(*iNode.view) : "";
+  ioTable.Add({std::string(2 * iLevel, ' ') + iNode.name, iNode.type, iNode.setType, entities, view, remark});
   for (const TreeNode& child : iNode.children)
     AddRows(ioTable, child, iLevel + 1);
 }
@@ -25,8 +26,12 @@ void WriteNode(Output& ioOutput, const TreeNode& iNode, std::size_t iLevel)
 {
   const std::string indent(2 * iLevel, ' ');
   const std::string entities = iNode.entities ? std::to_string(*iNode.entities) : "null";
-  ioOutput.Write(fmt::format("{{\"name\": {}, \"type\": {}, \"entities\": {}, ", JsonText(iNode.name),
-                             JsonText(iNode.type), entities));
+  ioOutput.Write(fmt::format("{{\"name\": {}, \"type\": {}, \"set\": {}, \"entities\": {}, ", JsonText(iNode.name),
+                             JsonText(iNode.type), JsonText(iNode.setType.empty() ? Json() : Json(iNode.setType)),
+                             entities));
+  if (iNode.view)
+    ioOutput.Write(fmt::format("\"visible\": {{\"graph\": {}, \"3d\": {}}}, \"noShow\": {}, ", iNode.view->inGraph,
+                               iNode.view->in3D, iNode.view->noShow));
   if (iNode.hidden > 0)
     ioOutput.Write(fmt::format("\"hidden\": {}, ", iNode.hidden));
   ioOutput.Write("\"children\": [");
@@ -44,7 +49,7 @@ void WriteNode(Output& ioOutput, const TreeNode& iNode, std::size_t iLevel)
 
 void PrintTree(Output& ioOutput, const TreeNode& iRoot)
 {
-  TextTable table({Align::Left, Align::Left, Align::Right, Align::Left});
+  TextTable table({Align::Left, Align::Left, Align::Left, Align::Right, Align::Left, Align::Left});
   AddRows(table, iRoot, 0);
   table.Print(ioOutput);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include "voxbench/report/Output.h"
+#include "voxbench/report/ViewsReport.h"
 
 #include <cstdint>
 #include <optional>
@@ -15,15 +16,17 @@ struct TreeNode
 {
   std::string name; //!< the alias, or the name of a feature without one
   std::string type;
-  std::optional<std::int64_t> entities; //!< what the feature applies to or gathers; none for sets and the like
-  std::int64_t hidden = 0;              //!< features below that a depth limit leaves out
-  std::vector<TreeNode> children;
+  std::string setType = {};                  //!< the type of set that an entity belongs in; "" for what is no entity
+  std::optional<std::int64_t> entities = {}; //!< what the feature applies to or gathers; none for sets and the like
+  std::optional<ViewState> view = {};        //!< none for a feature without visibility
+  std::int64_t hidden = 0;                   //!< features below that a depth limit leaves out
+  std::vector<TreeNode> children = {};
 };
 
 //! Two blanks of indentation per level, so that the lines can be searched and cut.
 void PrintTree(Output& ioOutput, const TreeNode& iRoot);
 
-//! {"tree": {"name", "type", "entities", "children": [...]}}
+//! {"tree": {"name", "type", "set", "entities", "visible", "noShow", "children": [...]}}
 void WriteTreeJson(Output& ioOutput, const TreeNode& iRoot);
 
 } // namespace voxbench
