@@ -178,6 +178,34 @@ TEST_F(VOXECharacCollectorArchiving, AnyAuthorizationThatIsNotZeroCounts)
   EXPECT_NE(ArchiverOf(collector), nullptr);
 }
 
+namespace
+{
+
+// A feature type that answers with success and says nothing.
+class Silent : public ScriptedCharac
+{
+public:
+  HRESULT IsAuthorizedToArchiveCollectors(unsigned char&) const override { return S_OK; }
+};
+
+} // namespace
+
+TEST_F(VOXECharacCollectorArchiving, AnAuthorizationThatSaysNothingIsNone)
+{
+  Bench bench;
+  VOXBaseUnknown* const feature = bench.Component<CharacTie<Silent>, ScriptedExplicit, ScriptedSpecObject>();
+  const VOXICharacCollector_var spCollector(feature);
+  Silent& adaptor = CharacTie<Silent>::AdaptorOf(spCollector);
+  const VOXAnalysisCharacCollector& collector = world->NewCollector();
+  EXPECT_EQ(adaptor.AssignArchiverToCollector(&collector, CollectorArchiveOnDemand), S_OK);
+  EXPECT_EQ(ArchiverOf(collector), nullptr);
+  EXPECT_EQ(CharacArea::Build(adaptor), S_OK);
+  const voxhost::ExplicitModel models[3];
+  for (const voxhost::ExplicitModel& model : models)
+    EXPECT_EQ(spCollector->SetContextModel(&model), S_OK);
+  EXPECT_TRUE(CharacArea::IsBuilt(adaptor)) << "a third model drops nothing";
+}
+
 TEST_F(VOXECharacCollectorArchiving, AFeatureThatIsNotAuthorizedArchivesNothingAndTheCollectorIsNotLookedAt)
 {
   world->Told().authorized = 0;

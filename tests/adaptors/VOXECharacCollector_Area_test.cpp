@@ -269,6 +269,19 @@ TEST_F(VOXECharacCollectorArea, IsSearchedNoFurtherForAFeatureThatOffersNoTypesA
   }
 }
 
+TEST_F(VOXECharacCollectorArea, IsSearchedWithinTheCountsOfEachQuery)
+{
+  Build();
+  world->Told().nbVersions = 1;
+  EXPECT_EQ(Locate(11, Version(2), "NODE"), kNowhere);
+  world->Told().nbVersions.reset();
+  world->Told().nbPositions = 1;
+  EXPECT_EQ(Locate(11, Version(1), "CENTER"), kNowhere);
+  world->Told().nbPositions.reset();
+  world->Told().nbTypes = 1;
+  EXPECT_EQ(Locate(22, Version(3), "NODE"), kNowhere);
+}
+
 TEST_F(VOXECharacCollectorArea, IsLeftUnsearchedWhenAQueryFails)
 {
   Build();

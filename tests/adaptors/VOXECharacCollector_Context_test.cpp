@@ -95,24 +95,28 @@ TEST_F(VOXECharacCollectorContext, OfAFeatureWithoutParentsIsNone)
   EXPECT_EQ((Ledger::Read() - before).userLists, 0);
 }
 
-TEST_F(VOXECharacCollectorContext, OfAFeatureWhoseParentsWereDeletedIsNone)
+TEST_F(VOXECharacCollectorContext, SkipsParentsThatWereDeletedMeanwhile)
 {
-  VOXAnalysisExplicitEntity gone = world->Model().Create(NULL_exp, "SOLUTION", "gone");
   class Deleting : public ScriptedExplicit
   {
   public:
     HRESULT ListParents(VOXAnalysisExplicitListUsr& ioParents) const override
     {
-      VOXAnalysisExplicitParent parent = Told().parents.front();
-      ioParents.Append(parent);
-      return parent.Delete();
+      const HRESULT result = ScriptedExplicit::ListParents(ioParents);
+      Told().parents.front().Delete();
+      return result;
     }
   };
   Bench bench;
   VOXBaseUnknown* const feature = bench.Component<CharacTie<ScriptedCharac>, Deleting>();
+  const VOXAnalysisExplicitEntity gone = world->Model().Create(NULL_exp, "SOLUTION", "gone");
   Deleting::ScriptOf(feature).model = &world->Model();
-  Deleting::ScriptOf(feature).parents = {gone};
+  Deleting::ScriptOf(feature).parents = {gone, world->Entity()};
   const VOXICharacCollector_var spCollector(feature);
+  EXPECT_EQ(spCollector->GetContext(context), S_OK);
+  EXPECT_TRUE(context == world->Entity());
+  const VOXAnalysisExplicitEntity last = world->Model().Create(NULL_exp, "SOLUTION", "gone, too");
+  Deleting::ScriptOf(feature).parents = {last};
   EXPECT_EQ(spCollector->GetContext(context), E_FAIL);
   EXPECT_EQ(AllReported(), (std::vector<Reported>{{VOXSamErrorCondition, "oContext == NULL_exp", kCharac}}));
 }

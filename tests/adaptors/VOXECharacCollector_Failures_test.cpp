@@ -241,8 +241,12 @@ TEST_F(VOXECharacCollectorFailures, ExplanationsAreForWhoeverReadsThemWhileError
 TEST_F(VOXECharacCollectorFailures, OnlyTheContextAndTheBuildLeaveThroughAGuardedExit)
 {
   for (const auto& [way, isGuarded] : std::vector<std::pair<Way, bool>>{
+           {{kQuery, 2, Context}, true},
+           {{"VOXISamExplicit::GetExplicitModel", 1, Context}, true},
+           {{"VOXAnalysisExplicitListUsr::CreateList", 1, Context}, true},
            {{"VOXISamExplicit::ListParents", 1, Context}, true},
            {{kTypes, 1, Build}, true},
+           {{kQuery, 1, Build}, true},
            {{kTypes, 1, Offers}, false},
            {{kTypes, 2, Locate}, false},
            {{kTypes, 2, Get}, false},
