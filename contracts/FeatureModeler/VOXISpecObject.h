@@ -66,7 +66,7 @@ class VOX_HOST_API VOXISpecObject : public VOXBaseUnknown
   //! 12. Time stamp of the last change.
   virtual std::int32_t GetTimeStamp() const = 0;
 
-  //! 13. The attributes, anywhere in the document, that refer to this feature.
+  //! 13. The attributes, anywhere in the document, that refer to this feature or hold it; a list once for each time.
   //! @param ioPointings what is found is appended; the receiver deletes every entry.
   virtual HRESULT GetPointings(VOXListPtrVOXSpecPointing& ioPointings) const = 0;
 

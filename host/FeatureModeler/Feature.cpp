@@ -68,7 +68,10 @@ std::vector<Feature::Referrer> Feature::Referrers() const
 {
   std::vector<Referrer> referrers;
   if (_Referrers != nullptr)
-    _Referrers->Visit([&](Feature& feature, int attribute) { referrers.push_back({&feature, attribute}); });
+    _Referrers->Visit(
+        [&](Feature& feature, int attribute, int count) {
+          referrers.push_back({&feature, attribute, count});
+        });
   std::sort(referrers.begin(), referrers.end(),
             [](const Referrer& left, const Referrer& right)
             {

@@ -104,6 +104,7 @@ public:
   {
     Feature* feature;
     int attribute;
+    int count; //!< how often: a list may hold a feature more than once
   };
   std::vector<Referrer> Referrers() const;
 

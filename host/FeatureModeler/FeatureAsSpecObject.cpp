@@ -114,7 +114,8 @@ HRESULT Feature::GetPointings(VOXListPtrVOXSpecPointing& ioPointings) const
   if (_Father != nullptr)
     append(*_Father, _HoldingAttribute);
   for (const Referrer& referrer : Referrers())
-    append(*referrer.feature, referrer.attribute);
+    for (int i = 0; i < referrer.count; ++i)
+      append(*referrer.feature, referrer.attribute);
   return S_OK;
 }
 

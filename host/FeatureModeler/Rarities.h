@@ -38,7 +38,7 @@ public:
   void Visit(Visitor iVisitor) const
   {
     for (const auto& [referrer, count] : _Counts)
-      iVisitor(*referrer.first, referrer.second);
+      iVisitor(*referrer.first, referrer.second, count);
   }
 
 private:

@@ -78,11 +78,13 @@ public:
 struct FeatureAccessScript
 {
   std::map<std::string, VOXISpecAttrKey*> keys;
-  std::map<std::string, Objects> lists;                //!< by the name of the key; one that is not here gives no list
+  std::map<std::string, Objects> lists; //!< by the name of the key, as the others; one that is not here gives no list
+  std::map<std::string, std::vector<double>> numbers; //!< reals, booleans and integers: of a list, or the single one
+  std::map<std::string, std::vector<std::string>> texts;
   std::optional<std::vector<VOXISpecAttrKey*>> listed; //!< what is listed of the keys, null for an empty handle
 };
 
-//! Keys and lists of features; any other read gives nothing and any other write fails.
+//! Every operation is recorded with the names of the keys; a write changes nothing.
 class ScriptedFeatureAccess : public Scripted<VOXISpecAttrAccess, FeatureAccessScript>
 {
 public:
@@ -135,25 +137,100 @@ public:
     return fails ? E_FAIL : S_OK;
   }
 
-  double GetDouble(const VOXISpecAttrKey*, int) const override { return 0.; }
-  unsigned char GetBoolean(const VOXISpecAttrKey*, int) const override { return 0; }
-  VOXUnicodeString GetString(const VOXISpecAttrKey*, int) const override { return {}; }
-  std::int32_t GetInteger(const VOXISpecAttrKey*, int) const override { return 0; }
-  VOXISpecObject* GetSpecObject(const VOXISpecAttrKey*, int) const override { return nullptr; }
-  HRESULT SetDouble(const VOXISpecAttrKey*, double, int) override { return E_FAIL; }
-  HRESULT SetBoolean(const VOXISpecAttrKey*, unsigned char, int) override { return E_FAIL; }
-  HRESULT SetString(const VOXISpecAttrKey*, const VOXUnicodeString&, int) override { return E_FAIL; }
-  HRESULT SetInteger(const VOXISpecAttrKey*, std::int32_t, int) override { return E_FAIL; }
-  HRESULT Reset(const VOXISpecAttrKey*) override { return E_FAIL; }
-  int GetListSize(const VOXISpecAttrKey*) const override { return 0; }
-  int GetPosition(const VOXISpecAttrKey*, const VOXBaseUnknown_var&) const override { return 0; }
-  HRESULT SetIntegerList(const VOXISpecAttrKey*, const VOXRawCollint&) override { return E_FAIL; }
+  double GetDouble(const VOXISpecAttrKey* iKey, int iIndex) const override
+  {
+    return CallLog::Enter("VOXISpecAttrAccess::GetDouble", NameOf(iKey), iIndex) ? 0. : Number(iKey, iIndex);
+  }
+  unsigned char GetBoolean(const VOXISpecAttrKey* iKey, int iIndex) const override
+  {
+    const bool fails = CallLog::Enter("VOXISpecAttrAccess::GetBoolean", NameOf(iKey), iIndex);
+    return static_cast<unsigned char>(fails ? 0. : Number(iKey, iIndex));
+  }
+  VOXUnicodeString GetString(const VOXISpecAttrKey* iKey, int iIndex) const override
+  {
+    const bool fails = CallLog::Enter("VOXISpecAttrAccess::GetString", NameOf(iKey), iIndex);
+    return fails ? "" : Element(Told().texts, iKey, iIndex).c_str();
+  }
+  std::int32_t GetInteger(const VOXISpecAttrKey* iKey, int iIndex) const override
+  {
+    const bool fails = CallLog::Enter("VOXISpecAttrAccess::GetInteger", NameOf(iKey), iIndex);
+    return static_cast<std::int32_t>(fails ? 0. : Number(iKey, iIndex));
+  }
+  VOXISpecObject* GetSpecObject(const VOXISpecAttrKey* iKey, int iIndex) const override
+  {
+    if (CallLog::Enter("VOXISpecAttrAccess::GetSpecObject", NameOf(iKey), iIndex))
+      return nullptr;
+    VOXISpecObject* const object = FaceOf<VOXISpecObject>(Element(Told().lists, iKey, iIndex));
+    if (object != nullptr)
+      object->AddRef();
+    return object;
+  }
+
+  HRESULT SetDouble(const VOXISpecAttrKey* iKey, double iValue, int iIndex) override
+  {
+    return CallLog::Enter("VOXISpecAttrAccess::SetDouble", NameOf(iKey), iValue, iIndex) ? E_FAIL : S_OK;
+  }
+  HRESULT SetBoolean(const VOXISpecAttrKey* iKey, unsigned char iValue, int iIndex) override
+  {
+    const int value = iValue;
+    return CallLog::Enter("VOXISpecAttrAccess::SetBoolean", NameOf(iKey), value, iIndex) ? E_FAIL : S_OK;
+  }
+  HRESULT SetString(const VOXISpecAttrKey* iKey, const VOXUnicodeString& iValue, int iIndex) override
+  {
+    const char* const value = iValue.ConvertToChar();
+    return CallLog::Enter("VOXISpecAttrAccess::SetString", NameOf(iKey), value, iIndex) ? E_FAIL : S_OK;
+  }
+  HRESULT SetInteger(const VOXISpecAttrKey* iKey, std::int32_t iValue, int iIndex) override
+  {
+    return CallLog::Enter("VOXISpecAttrAccess::SetInteger", NameOf(iKey), iValue, iIndex) ? E_FAIL : S_OK;
+  }
+  HRESULT Reset(const VOXISpecAttrKey* iKey) override
+  {
+    return CallLog::Enter("VOXISpecAttrAccess::Reset", NameOf(iKey)) ? E_FAIL : S_OK;
+  }
+  int GetListSize(const VOXISpecAttrKey* iKey) const override
+  {
+    if (CallLog::Enter("VOXISpecAttrAccess::GetListSize", NameOf(iKey)))
+      return 0;
+    const FeatureAccessScript& told = Told();
+    return SizeOf(told.numbers, iKey) + SizeOf(told.texts, iKey) + SizeOf(told.lists, iKey);
+  }
+  int GetPosition(const VOXISpecAttrKey* iKey, const VOXBaseUnknown_var& iObject) const override
+  {
+    const bool fails = CallLog::Enter("VOXISpecAttrAccess::GetPosition", NameOf(iKey), Labels::Of(iObject));
+    const auto found = Told().lists.find(NameOf(iKey));
+    for (std::size_t i = 0; !fails && found != Told().lists.end() && i < found->second.size(); ++i)
+      if (found->second[i] != nullptr && found->second[i]->GetImpl() == iObject->GetImpl())
+        return static_cast<int>(i) + 1;
+    return 0;
+  }
+  HRESULT SetIntegerList(const VOXISpecAttrKey* iKey, const VOXRawCollint& iValues) override
+  {
+    return CallLog::Enter("VOXISpecAttrAccess::SetIntegerList", NameOf(iKey), iValues.Size()) ? E_FAIL : S_OK;
+  }
 
 private:
   static std::string NameOf(const VOXISpecAttrKey* iKey)
   {
     return iKey == nullptr ? "no key" : ScriptedFeatureKey::ScriptOf(iKey).name;
   }
+
+  // An element of a list, from 1, or the single value at 0.
+  template <class Value>
+  static Value Element(const std::map<std::string, std::vector<Value>>& iValues, const VOXISpecAttrKey* iKey,
+                       int iIndex)
+  {
+    const auto found = iValues.find(NameOf(iKey));
+    const auto place = static_cast<std::size_t>(iIndex == 0 ? 0 : iIndex - 1);
+    return found == iValues.end() || iIndex < 0 || place >= found->second.size() ? Value() : found->second[place];
+  }
+  template <class Value>
+  static int SizeOf(const std::map<std::string, std::vector<Value>>& iValues, const VOXISpecAttrKey* iKey)
+  {
+    const auto found = iValues.find(NameOf(iKey));
+    return found == iValues.end() ? 0 : static_cast<int>(found->second.size());
+  }
+  double Number(const VOXISpecAttrKey* iKey, int iIndex) const { return Element(Told().numbers, iKey, iIndex); }
 };
 
 //! What a scripted VOXISamBasicComponent answers.

@@ -26,7 +26,7 @@ protected:
   }
 };
 
-TEST_F(FeaturePointings, NameEveryAttributeOnceAndTheFathersFirst)
+TEST_F(FeaturePointings, NameEveryAttributeAsOftenAsItRefersAndTheFathersFirst)
 {
   voxhost::Feature& set = New("LoadSet", "Set");
   voxhost::Feature& nut = New("Bolt", "Nut");
@@ -35,7 +35,7 @@ TEST_F(FeaturePointings, NameEveryAttributeOnceAndTheFathersFirst)
   bolt.Add("Nut", nut);
   bolt.Add("Supports", nut);
   bolt.Add("Supports", nut);
-  EXPECT_EQ(Of(nut), (std::vector<std::string>{"Set.SonsList", "Bolt.Supports", "Bolt.Nut"}));
+  EXPECT_EQ(Of(nut), (std::vector<std::string>{"Set.SonsList", "Bolt.Supports", "Bolt.Supports", "Bolt.Nut"}));
 }
 
 TEST_F(FeaturePointings, GoWithTheReferenceAndWithTheFeatureThatRefers)
