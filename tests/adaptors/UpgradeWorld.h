@@ -163,17 +163,17 @@ public:
 };
 
 //! Calls a function with the name of every operation of the host that is called. One at a time, and not beside a CallLog.
-class WhenCalled
+class OnEachCall
 {
 public:
-  explicit WhenCalled(std::function<void(const std::string&)> iDo)
+  explicit OnEachCall(std::function<void(const std::string&)> iDo)
   {
     Do() = std::move(iDo);
     voxhost::Faults::Listen([](const char* iOperation) { Do()(iOperation); });
   }
-  ~WhenCalled() { voxhost::Faults::Listen(nullptr); }
-  WhenCalled(const WhenCalled&) = delete;
-  WhenCalled& operator=(const WhenCalled&) = delete;
+  ~OnEachCall() { voxhost::Faults::Listen(nullptr); }
+  OnEachCall(const OnEachCall&) = delete;
+  OnEachCall& operator=(const OnEachCall&) = delete;
 
 private:
   static std::function<void(const std::string&)>& Do()

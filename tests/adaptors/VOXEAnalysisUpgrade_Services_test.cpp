@@ -270,7 +270,7 @@ TEST_F(UpgradeRemoval, MarksTheFeatureBeforeAndTakesTheMarkBackAfter)
   const Feature& elsewhere = *world->document.New("SAMRealComponent", "elsewhere");
   bool outOfDateMeanwhile = false;
   {
-    const WhenCalled look(
+    const OnEachCall look(
         [&](const std::string& iOperation)
         {
           if (iOperation == "VOXISpecObject::RemoveComponent")

@@ -95,6 +95,8 @@ HRESULT ScriptedAnalysisSupport::ListSupports(VOXListValVOXBaseUnknown_var& ioSu
   const bool isAll = iType == CLSID_VOXBaseUnknown;
   if (CallLog::Enter("VOXISamAnalysisSupport::ListSupports", isAll ? "all" : "some"))
     return E_FAIL;
+  if (Told().whenAsked)
+    Told().whenAsked(ioSupports);
   for (VOXBaseUnknown* const support : Told().supports)
     ioSupports.Append(VOXBaseUnknown_var(support));
   return Told().result;
@@ -102,7 +104,7 @@ HRESULT ScriptedAnalysisSupport::ListSupports(VOXListValVOXBaseUnknown_var& ioSu
 
 HRESULT ScriptedMeshPartFilter::ListDesigners(VOXListValVOXISpecObject_var*& oDesigners) const
 {
-  if (CallLog::Enter("VOXISamMeshPartFilter::ListDesigners"))
+  if (CallLog::Enter("VOXISamMeshPartFilter::ListDesigners", oDesigners == nullptr ? "null" : "not null"))
     return E_FAIL;
   oDesigners = Told().designers ? new VOXListValVOXISpecObject_var : nullptr;
   for (VOXBaseUnknown* const designer : Told().designers.value_or(Objects()))

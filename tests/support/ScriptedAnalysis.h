@@ -107,6 +107,7 @@ struct AnalysisSupportScript
 {
   Objects supports; //!< appended
   HRESULT result = S_OK;
+  std::function<void(const VOXListValVOXBaseUnknown_var& iSoFar)> whenAsked;
 };
 
 class ScriptedAnalysisSupport : public Scripted<VOXISamAnalysisSupport, AnalysisSupportScript>

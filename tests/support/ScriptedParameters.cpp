@@ -13,7 +13,7 @@ const char* Text(const VOXUnicodeString& iText)
 
 } // namespace
 
-std::string ScriptedBasicComponent::NameOf(const VOXBaseUnknown* iObject) const
+std::string ScriptedListedComponent::NameOf(const VOXBaseUnknown* iObject) const
 {
   if (iObject == nullptr)
     return "null";
@@ -21,18 +21,20 @@ std::string ScriptedBasicComponent::NameOf(const VOXBaseUnknown* iObject) const
   return name == Told().names.end() ? "?" : name->second;
 }
 
-HRESULT ScriptedBasicComponent::GetValue(VOXBaseUnknown_var& oValue, const VOXUnicodeString& iQualifier, int iValue,
-                                         int iRow, int iLayer) const
+HRESULT ScriptedListedComponent::GetValue(VOXBaseUnknown_var& oValue, const VOXUnicodeString& iQualifier, int iValue,
+                                          int iRow, int iLayer) const
 {
   oValue = NULL_var;
   if (CallLog::Enter("VOXISamBasicComponent::GetValue", Text(iQualifier), iValue, iRow, iLayer))
     return E_FAIL;
+  if (Told().whenAskedForValue)
+    Told().whenAskedForValue();
   oValue = Told().value;
   return Told().valueResult;
 }
 
-HRESULT ScriptedBasicComponent::CreateSubComponent(const VOXUnicodeString& iType, const VOXUnicodeString& iQualifier,
-                                                   const VOXBaseUnknown_var& iKind)
+HRESULT ScriptedListedComponent::CreateSubComponent(const VOXUnicodeString& iType, const VOXUnicodeString& iQualifier,
+                                                    const VOXBaseUnknown_var& iKind)
 {
   if (CallLog::Enter("VOXISamBasicComponent::CreateSubComponent", Text(iType), Text(iQualifier), NameOf(iKind)))
     return E_FAIL;
@@ -41,8 +43,8 @@ HRESULT ScriptedBasicComponent::CreateSubComponent(const VOXUnicodeString& iType
   return Told().createResult;
 }
 
-HRESULT ScriptedBasicComponent::ListSubComponents(VOXListValVOXBaseUnknown_var*& oComponents,
-                                                  const VOXUnicodeString& iFilter) const
+HRESULT ScriptedListedComponent::ListSubComponents(VOXListValVOXBaseUnknown_var*& oComponents,
+                                                   const VOXUnicodeString& iFilter) const
 {
   if (CallLog::Enter("VOXISamBasicComponent::ListSubComponents", Text(iFilter)))
     return E_FAIL;
@@ -52,9 +54,13 @@ HRESULT ScriptedBasicComponent::ListSubComponents(VOXListValVOXBaseUnknown_var*&
   return Told().listResult;
 }
 
-HRESULT ScriptedBasicComponent::RemoveSubComponent(const VOXBaseUnknown_var& iComponent)
+HRESULT ScriptedListedComponent::RemoveSubComponent(const VOXBaseUnknown_var& iComponent)
 {
-  return CallLog::Enter("VOXISamBasicComponent::RemoveSubComponent", NameOf(iComponent)) ? E_FAIL : Told().removeResult;
+  if (CallLog::Enter("VOXISamBasicComponent::RemoveSubComponent", NameOf(iComponent)))
+    return E_FAIL;
+  if (Told().whenRemoved)
+    Told().whenRemoved();
+  return Told().removeResult;
 }
 
 VOXCke::Boolean ScriptedCkeType::IsAKindOfType(VOXCkeContext::TypeKind iKind) const

@@ -16,7 +16,7 @@ namespace voxtest
 {
 
 //! What a scripted VOXISamBasicComponent answers. Objects are borrowed and must outlive the script.
-struct BasicComponentScript
+struct ListedComponentScript
 {
   VOXBaseUnknown* value = nullptr;
   HRESULT valueResult = S_OK;           //!< a failure gives the value all the same
@@ -25,11 +25,13 @@ struct BasicComponentScript
   HRESULT createResult = S_OK;
   HRESULT removeResult = S_OK;
   std::map<const VOXBaseUnknown*, std::string> names; //!< of sub-components and kinds, for the record
+  std::function<void()> whenAskedForValue;
   std::function<void()> whenCreated;
+  std::function<void()> whenRemoved;
   std::function<void(VOXListValVOXBaseUnknown_var&)> whenListed;
 };
 
-class ScriptedBasicComponent : public Scripted<VOXISamBasicComponent, BasicComponentScript>
+class ScriptedListedComponent : public Scripted<VOXISamBasicComponent, ListedComponentScript>
 {
 public:
   HRESULT InitializeAfterCreation() override { return S_OK; }
