@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+#include <malloc.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -9,6 +10,7 @@
 template <typename Work>
 double PeakBytesOf(Work iWork)
 {
+  malloc_trim(0); // free memory of earlier work would be used again without being counted
   const auto peakOf = [](auto iInChild)
   {
     const pid_t child = fork();

@@ -2,7 +2,7 @@
 // A deck of tetrahedra from the file to document, explicit model and one group's node ids, against the plain scanner,
 // both in the same run, one after the other, best of several.
 // Limits: 2 times the scanner's time, 200 bytes per element at the peak, the mapped file included; per element, five
-// times the elements cost at most 1.3 times as much. Fails when one is not met.
+// times the elements take at most 1.3 times the processor's time. Fails when one is not met.
 #include "PeakMemory.h"
 #include "PlainScanner.h"
 #include "TetDeck.h"
@@ -14,6 +14,7 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <limits>
 #include <map>
@@ -28,7 +29,7 @@ constexpr double kGrowthLimit = 1.3;
 constexpr int kRounds = 9;
 
 bool limitsMet = true;
-std::map<std::int64_t, double> secondsPerElement;
+std::map<std::int64_t, double> processorPerElement;
 
 //! A deck that lives as long as its object.
 class DeckFile
@@ -84,10 +85,13 @@ void ModelAgainstScanner(benchmark::State& ioState)
   const double scannerBytes = PeakBytesOf([&] { Scan(file.Path(), deck); }) / elements;
   double model = std::numeric_limits<double>::max();
   double scanner = model;
+  double processor = model;
   for (auto _ : ioState)
   {
     scanner = std::min(scanner, Seconds([&] { Scan(file.Path(), deck); }));
+    const std::clock_t before = std::clock();
     const double seconds = Seconds([&] { Open(file.Path(), deck); });
+    processor = std::min(processor, static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC);
     model = std::min(model, seconds);
     ioState.SetIterationTime(seconds);
   }
@@ -96,7 +100,7 @@ void ModelAgainstScanner(benchmark::State& ioState)
   ioState.counters["ratio"] = model / scanner;
   ioState.counters["model_B/el"] = modelBytes;
   ioState.counters["scanner_B/el"] = scannerBytes;
-  secondsPerElement[ioState.range(0)] = model / elements;
+  processorPerElement[ioState.range(0)] = processor / elements;
   limitsMet = limitsMet && model / scanner <= kTimeLimit && modelBytes <= kBytesLimit;
 }
 
@@ -113,9 +117,9 @@ int main(int iCount, char** iArguments)
 {
   benchmark::Initialize(&iCount, iArguments);
   benchmark::RunSpecifiedBenchmarks();
-  if (secondsPerElement.size() == 2)
+  if (processorPerElement.size() == 2)
   {
-    const double growth = secondsPerElement.rbegin()->second / secondsPerElement.begin()->second;
+    const double growth = processorPerElement.rbegin()->second / processorPerElement.begin()->second;
     std::printf("per element, 5 times the elements: %.2f (limit %.1f)\n", growth, kGrowthLimit);
     limitsMet = limitsMet && growth <= kGrowthLimit;
   }
