@@ -8,6 +8,7 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 //! A second, simple reading of a deck's sets and surfaces, to compare with: no line of the reader's code, no errors known.
