@@ -10,6 +10,7 @@ if(VOX_BUILD_VOXBENCH)
   find_package(nlohmann_json CONFIG REQUIRED)
   find_package(fmt CONFIG REQUIRED)
   find_package(ZLIB REQUIRED)
+  find_package(SQLite3 REQUIRED)
 endif()
 
 if(VOX_BUILD_TESTS)

@@ -56,6 +56,9 @@ public:
   //! Whether the model has a global axis system; it has one at the start.
   void SetGlobalFrame(bool iHasOne);
 
+  //! Makes an axis object that stands already the global axis system; null for none.
+  void DesignateGlobalFrame(VOXSamModelDataRoot* iFrame) { _GlobalFrame = iFrame; }
+
   //! The object of an id, the empty handle when there is none.
   VOXAnalysisExplicitChild FindNode(std::int32_t iId) const;
   VOXAnalysisExplicitChild FindElement(std::int32_t iId) const;

@@ -75,14 +75,17 @@ Feature* Document::New(Feature& iStartUp, const VOXUnicodeString& iName, Contain
 }
 
 Feature* Document::Make(const FeatureType& iType, Feature* iStartUp, const VOXUnicodeString& iName,
-                        Container& iContainer)
+                        Container& iContainer, std::uint32_t iIdentifier)
 {
   auto* const made = new Feature(*this, iType, iStartUp, iName);
   if (made == nullptr)
     return nullptr;
   VOXComponentRuntime::Implement(made, made->_Record, iType.Name().c_str());
-  _ById.push_back(made);
-  made->_Identifier = static_cast<std::uint32_t>(_ById.size());
+  if (iIdentifier == 0)
+    _ById.push_back(made);
+  else
+    _ById[iIdentifier - 1] = made;
+  made->_Identifier = iIdentifier == 0 ? static_cast<std::uint32_t>(_ById.size()) : iIdentifier;
   made->_TimeStamp = ++_Clock;
   iContainer.Add(*made);
   return made;
@@ -140,6 +143,16 @@ VOXUnicodeString Document::NameFor(const Feature& iStartUp)
 Feature* Document::FindFeature(std::uint32_t iIdentifier) const
 {
   return iIdentifier == 0 || iIdentifier > _ById.size() ? nullptr : _ById[iIdentifier - 1];
+}
+
+std::vector<Feature*> Document::AllFeatures() const
+{
+  std::vector<Feature*> all;
+  all.reserve(_NumberOfFeatures);
+  for (Feature* const feature : _ById)
+    if (feature != nullptr && !feature->IsStartUp())
+      all.push_back(feature);
+  return all;
 }
 
 std::vector<Feature*> Document::WithComponents(Feature& iFeature) const

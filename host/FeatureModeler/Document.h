@@ -75,6 +75,9 @@ public:
   //! A feature or start-up by identifier; null when there is none any more.
   Feature* FindFeature(std::uint32_t iIdentifier) const;
 
+  //! All features, components included, start-ups not, by identifier; borrowed.
+  std::vector<Feature*> AllFeatures() const;
+
   //! Number of features, components included, start-ups not.
   std::size_t NumberOfFeatures() const { return _NumberOfFeatures; }
 
@@ -107,8 +110,11 @@ public:
 
 private:
   friend class Feature;
+  friend class Restoration;
 
-  Feature* Make(const FeatureType& iType, Feature* iStartUp, const VOXUnicodeString& iName, Container& iContainer);
+  //! @param iIdentifier of a place that is free; 0 for a new one.
+  Feature* Make(const FeatureType& iType, Feature* iStartUp, const VOXUnicodeString& iName, Container& iContainer,
+                std::uint32_t iIdentifier = 0);
   Feature* MakeStartUp(const FeatureType& iType, const VOXUnicodeString& iName);
   bool FillStartUp(Feature& ioStartUp);
   bool FillComponents(Feature& ioStartUp, int iAttribute);

@@ -172,6 +172,7 @@ public:
 
 private:
   friend class Document;
+  friend class Restoration;
   friend class Container;
 
   struct Slot

@@ -116,6 +116,9 @@ public:
   //! Index of "ExplicitTag", which is asked for at every step into the explicit model; -1 when the type has none.
   int TagAttribute() const { return _TagAttribute; }
 
+  //! Further type names that the type test says yes to, those of the bases left out.
+  const std::vector<std::string>& AlsoKindOf() const { return _AlsoKindOf; }
+
   //! Whether the type is iType, derives from it, or was declared to be of that kind too.
   bool IsSubTypeOf(std::string_view iType) const;
 

@@ -2,6 +2,7 @@
 #include "host/ObjectModeler/Container.h"
 
 #include "ObjectModeler/VOXSequence.h"
+#include "host/ComponentRuntime/LateTypes.h"
 #include "host/FeatureModeler/Feature.h"
 #include "host/Instruments/Faults.h"
 
@@ -44,6 +45,11 @@ Container* Container::Make(Document& iDocument, const std::string& iName, const 
 Container* Container::Of(const VOXBaseUnknown* iFace)
 {
   return iFace == nullptr ? nullptr : dynamic_cast<Container*>(iFace->GetImpl());
+}
+
+const std::string& Container::LateType() const
+{
+  return _Record.type->Name();
 }
 
 std::vector<Feature*> Container::Members() const

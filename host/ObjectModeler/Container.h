@@ -24,6 +24,7 @@ public:
 
   Document* OwningDocument() const { return _Document; } //!< borrowed; null once the document is gone
   const std::string& Name() const { return _Name; }
+  const std::string& LateType() const;
   bool Holds() const { return _Holds; } //!< whether it is the father of features that no feature holds
   std::size_t NumberOfMembers() const { return _NumberOfMembers; }
 
@@ -34,6 +35,7 @@ public:
 
 private:
   friend class Document;
+  friend class Restoration;
 
   Container(Document& iDocument, std::string iName, bool iHolds);
   static Container* Make(Document& iDocument, const std::string& iName, const char* iLateType, bool iHolds);

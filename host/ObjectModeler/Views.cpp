@@ -16,8 +16,25 @@ void Views::Show(const VOXBaseUnknown* iObject, int iView)
 
 bool Views::IsShown(const VOXBaseUnknown* iObject, View iView) const
 {
-  const auto found = iObject == nullptr ? _Shown.end() : _Shown.find(iObject->GetImpl());
-  return found != _Shown.end() && (found->second & iView) != 0;
+  return (ShownIn(iObject) & iView) != 0;
+}
+
+int Views::ShownIn(const VOXBaseUnknown* iObject) const
+{
+  if (iObject == nullptr || _Shown.empty())
+    return 0;
+  const auto found = _Shown.find(iObject->GetImpl());
+  return found == _Shown.end() ? 0 : found->second;
+}
+
+void Views::Restore(const VOXBaseUnknown* iObject, int iViews)
+{
+  if (iObject == nullptr)
+    return;
+  if (iViews == 0)
+    _Shown.erase(iObject->GetImpl());
+  else
+    _Shown[iObject->GetImpl()] = iViews;
 }
 
 void Views::Forget(const VOXBaseUnknown* iObject)

@@ -42,6 +42,12 @@ public:
   int ShowStatusCalls() const { return _ShowStatusCalls; }
   int RedrawRequests() const { return _RedrawRequests; }
 
+  //! Bits of the views in which an object is shown.
+  int ShownIn(const VOXBaseUnknown* iObject) const;
+
+  //! Puts back in which views an object is shown; nothing is counted.
+  void Restore(const VOXBaseUnknown* iObject, int iViews);
+
   //! Hides an object that is about to go.
   void Forget(const VOXBaseUnknown* iObject);
 

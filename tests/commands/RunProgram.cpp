@@ -54,11 +54,11 @@ std::string Quoted(const std::string& iArgument)
 
 } // namespace
 
-RunResult RunBuiltProgram(const std::vector<std::string>& iArguments)
+RunResult RunBuiltProgram(const std::vector<std::string>& iArguments, const std::string& iBefore)
 {
   const std::string out = (Folder() / "out").string();
   const std::string errors = (Folder() / "errors").string();
-  std::string line = Quoted(VOXBENCH_PROGRAM);
+  std::string line = iBefore + " " + Quoted(VOXBENCH_PROGRAM);
   for (const std::string& argument : iArguments)
     line.append(" ").append(Quoted(argument));
   const int status = std::system((line + " >" + Quoted(out) + " 2>" + Quoted(errors)).c_str());
@@ -104,6 +104,7 @@ std::string DifferenceToGolden(const std::string& iName, const std::string& iTex
 std::string TemporaryFile(const std::string& iName, const std::string& iText)
 {
   const std::filesystem::path path = Folder() / iName;
+  std::filesystem::create_directories(path.parent_path());
   std::ofstream(path, std::ios::binary) << iText;
   return path.string();
 }

@@ -14,8 +14,8 @@ struct RunResult
   std::string errors;
 };
 
-//! Runs the built program as from a shell.
-RunResult RunBuiltProgram(const std::vector<std::string>& iArguments);
+//! Runs the built program as from a shell. @param iBefore shell commands that come first, such as limits.
+RunResult RunBuiltProgram(const std::vector<std::string>& iArguments, const std::string& iBefore = "");
 
 //! Runs the same in this process.
 RunResult RunInProcess(const std::vector<std::string>& iArguments);
@@ -29,7 +29,8 @@ std::string ReadText(const std::string& iPath);
 //! in the environment the file is written instead. @return what is wrong; "" when they are equal.
 std::string DifferenceToGolden(const std::string& iName, const std::string& iText);
 
-//! A file of a text in a folder of the test run; the folder is emptied when the process ends.
+//! A file of a text in a folder of the test run; the folder is emptied when the process ends. The name may begin with
+//! a folder.
 std::string TemporaryFile(const std::string& iName, const std::string& iText);
 
 } // namespace voxtest

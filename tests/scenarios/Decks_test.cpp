@@ -155,6 +155,25 @@ TEST_F(AllDecksSlow, AxesOwnersChoicesAndConnectionsOfEachAreTold)
   }
 }
 
+TEST_F(AllDecksSlow, ADocumentOfEachTellsWhatTheDeckTells)
+{
+  constexpr std::uintmax_t kLargest = 1000000;
+  const std::string document = voxtest::TemporaryFile("deck.voxdoc", "");
+  for (const std::string& deck : decks)
+  {
+    if (std::filesystem::file_size(deck) > kLargest ||
+        voxtest::RunInProcess({"import", deck, "-o", document, "--force"}).code != 0)
+      continue;
+    for (const char* const command : {"tree", "groups", "check", "axes", "params", "connections"})
+    {
+      const auto ofDeck = voxtest::RunInProcess({command, deck, "--json"});
+      const auto ofDocument = voxtest::RunInProcess({command, document, "--json"});
+      EXPECT_EQ(ofDocument.code, ofDeck.code) << command << " " << deck << ": " << ofDocument.errors;
+      EXPECT_TRUE(ofDocument.out == ofDeck.out) << command << " " << deck;
+    }
+  }
+}
+
 TEST_F(AllDecksSlow, TheCheckOfAllFindsWhatTheGoldenListCounts)
 {
   std::map<std::string, int> findings;

@@ -39,6 +39,22 @@ std::string LoadedModel::Build(NeutralModel ioRecords)
   return builder.Failure();
 }
 
+bool LoadedModel::Restore(NeutralModel ioRecords, std::unique_ptr<voxhost::ExplicitModel> iExplicit,
+                          std::unique_ptr<voxhost::Document> iDocument)
+{
+  _Records = std::move(ioRecords);
+  _Explicit = std::move(iExplicit);
+  _Document = std::move(iDocument);
+  _Document->SetExplicitModel(_Explicit.get());
+  const std::vector<voxhost::Feature*> features = _Document->AllFeatures();
+  const auto root = std::find_if(features.begin(), features.end(),
+                                 [](const voxhost::Feature* iFeature) {
+                                   return iFeature->Father() == nullptr && iFeature->Type().Name() == "AnalysisModel";
+                                 });
+  _Root = root == features.end() ? nullptr : *root;
+  return _Root != nullptr;
+}
+
 std::vector<voxhost::Feature*> LoadedModel::MembersOf(const char* iSetType) const
 {
   for (const voxhost::Feature* const set : ChildrenOf(*_Root))

@@ -28,6 +28,10 @@ public:
   //! Makes document and explicit model; once. @return what is wrong, a sentence: the model is then of no use; else "".
   std::string Build(NeutralModel ioRecords);
 
+  //! Takes over what a store kept; once. @return false when the document has no analysis model.
+  bool Restore(NeutralModel ioRecords, std::unique_ptr<voxhost::ExplicitModel> iExplicit,
+               std::unique_ptr<voxhost::Document> iDocument);
+
   const NeutralModel& Records() const { return _Records; }
   voxhost::Document& Document() const { return *_Document; }
   voxhost::ExplicitModel& Explicit() const { return *_Explicit; }

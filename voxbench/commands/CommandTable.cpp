@@ -3,6 +3,7 @@
 #include "voxbench/commands/CheckCommand.h"
 #include "voxbench/commands/ConnectionsCommand.h"
 #include "voxbench/commands/GroupsCommand.h"
+#include "voxbench/commands/ImportCommand.h"
 #include "voxbench/commands/InfoCommand.h"
 #include "voxbench/commands/OwnerCommand.h"
 #include "voxbench/commands/ParamsCommand.h"
@@ -24,9 +25,10 @@ std::unique_ptr<Command> Make()
 
 const std::vector<CommandFactory>& CommandTable()
 {
-  static const std::vector<CommandFactory> table{
-      Make<InfoCommand>,  Make<TreeCommand>,   Make<GroupsCommand>,      Make<CheckCommand>, Make<AxesCommand>,
-      Make<OwnerCommand>, Make<ParamsCommand>, Make<ConnectionsCommand>, Make<ShowCommand>,  Make<HideCommand>};
+  static const std::vector<CommandFactory> table{Make<InfoCommand>,   Make<TreeCommand>,        Make<GroupsCommand>,
+                                                 Make<CheckCommand>,  Make<AxesCommand>,        Make<OwnerCommand>,
+                                                 Make<ParamsCommand>, Make<ConnectionsCommand>, Make<ShowCommand>,
+                                                 Make<HideCommand>,   Make<ImportCommand>};
   return table;
 }
 

@@ -1,11 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/InfoCommand.h"
 #include "voxbench/commands/Summarize.h"
+#include "voxbench/store/DocumentFile.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 
 namespace voxbench
 {
+namespace
+{
+
+//! A document stands for itself: its deck may be gone.
+void TellOfDocument(const std::string& iFile, InfoResult& ioResult)
+{
+  std::error_code unknown;
+  const std::uintmax_t bytes = std::filesystem::file_size(iFile, unknown);
+  ioResult.file = iFile;
+  ioResult.bytes = unknown ? 0 : bytes;
+}
+
+} // namespace
 
 CommandDescription InfoCommand::Describe() const
 {
@@ -34,7 +49,9 @@ int InfoCommand::Run(Console& ioConsole)
   NeutralModel records;
   if (const int code = OpenRecords(_File.file, ioConsole, records); code != kExitDone)
     return code;
-  const InfoResult result = Summarize(records);
+  InfoResult result = Summarize(records);
+  if (IsDocumentFile(_File.file))
+    TellOfDocument(_File.file, result);
   Output output(ioConsole.out);
   if (_File.json)
     WriteJson(output, ToJson(result));

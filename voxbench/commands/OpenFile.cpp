@@ -3,6 +3,7 @@
 #include "voxbench/commands/Progress.h"
 #include "voxbench/readers/inp/InpReader.h"
 #include "voxbench/report/ExitCode.h"
+#include "voxbench/store/DocumentFile.h"
 
 #include <CLI/CLI.hpp>
 
@@ -17,11 +18,31 @@ int Unreadable(const ReadOutcome& iOutcome, Console& ioConsole)
   return kExitUnreadable;
 }
 
+//! @return kExitDone for an empty reason.
+int Outcome(const std::string& iReason, Console& ioConsole)
+{
+  if (iReason.empty())
+    return kExitDone;
+  ioConsole.errors << "voxbench: " << iReason << '\n';
+  return kExitUnreadable;
+}
+
+int OpenDocument(const std::string& iFile, Console& ioConsole, LoadedModel& oModel)
+{
+  std::string reason;
+  {
+    Progress progress(ioConsole.errors, "Opening " + iFile, ioConsole.errorsAreTerminal);
+    reason = ReadDocumentFile(
+        iFile, oModel, [&progress](std::uint64_t iDone, std::uint64_t iTotal) { progress.Report(iDone, iTotal); });
+  }
+  return Outcome(reason, ioConsole);
+}
+
 } // namespace
 
 void FileOptions::Declare(CLI::App& ioParser)
 {
-  ioParser.add_option("FILE", file, "The model: a keyword deck (.inp), plain or compressed (.inp.gz)")
+  ioParser.add_option("FILE", file, "The model: a keyword deck (.inp, .inp.gz) or a document (.voxdoc)")
       ->required()
       ->option_text(" ");
   ioParser.add_flag("--json", json, "Print one JSON object instead of text");
@@ -29,6 +50,8 @@ void FileOptions::Declare(CLI::App& ioParser)
 
 int OpenRecords(const std::string& iFile, Console& ioConsole, NeutralModel& oRecords)
 {
+  if (IsDocumentFile(iFile))
+    return Outcome(ReadDocumentRecords(iFile, oRecords), ioConsole);
   ReadOutcome outcome;
   {
     Progress progress(ioConsole.errors, "Reading " + iFile, ioConsole.errorsAreTerminal);
@@ -41,15 +64,13 @@ int OpenRecords(const std::string& iFile, Console& ioConsole, NeutralModel& oRec
 
 int OpenModel(const std::string& iFile, Console& ioConsole, LoadedModel& oModel)
 {
+  if (IsDocumentFile(iFile))
+    return OpenDocument(iFile, ioConsole, oModel);
   NeutralModel records;
   if (const int code = OpenRecords(iFile, ioConsole, records); code != kExitDone)
     return code;
-  if (const std::string reason = oModel.Build(std::move(records)); !reason.empty())
-  {
-    ioConsole.errors << "voxbench: " << iFile << ": " << reason << '\n';
-    return kExitUnreadable;
-  }
-  return kExitDone;
+  const std::string reason = oModel.Build(std::move(records));
+  return Outcome(reason.empty() ? "" : iFile + ": " + reason, ioConsole);
 }
 
 int FinishOutput(Output& ioOutput, Console& ioConsole, int iCode)

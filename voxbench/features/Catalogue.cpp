@@ -157,14 +157,20 @@ void Insist(const std::string& iReason)
 std::shared_ptr<const voxhost::TypeCatalogue> MakeTypes()
 {
   const auto types = std::make_shared<voxhost::TypeCatalogue>();
-  Insist(types->Declare(voxhost::AnalysisTypes()));
-  Insist(types->Declare(BasicComponents()));
-  Insist(types->Declare(OwnTypes()));
+  Insist(types->Declare(WorkbenchDeclarations()));
   DeclareAdaptors();
   return types;
 }
 
 } // namespace
+
+std::vector<TypeDeclaration> WorkbenchDeclarations()
+{
+  std::vector<TypeDeclaration> declarations = voxhost::AnalysisTypes();
+  for (auto&& more : {BasicComponents(), OwnTypes()})
+    declarations.insert(declarations.end(), more.begin(), more.end());
+  return declarations;
+}
 
 std::shared_ptr<const voxhost::TypeCatalogue> WorkbenchTypes()
 {

@@ -11,4 +11,7 @@ namespace voxbench
 //! the adaptors that carry their interfaces declared in the type dictionary. Made once.
 std::shared_ptr<const voxhost::TypeCatalogue> WorkbenchTypes();
 
+//! The declarations that these types were made from, bases first.
+std::vector<voxhost::TypeDeclaration> WorkbenchDeclarations();
+
 } // namespace voxbench

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "voxbench/commands/ImportCommand.h"
+#include "voxbench/commands/Progress.h"
+#include "voxbench/report/ImportReport.h"
+#include "voxbench/store/DocumentFile.h"
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <fmt/format.h>
+
+namespace voxbench
+{
+
+CommandDescription ImportCommand::Describe() const
+{
+  return {"import",
+          "Keep a deck as a document",
+          "Writes what a deck becomes, features and explicit model, into one file. Every other subcommand opens it in\n"
+          "place of the deck, without the deck. The document appears in one step, when it is whole.",
+          {{"voxbench import bracket.inp -o bracket.voxdoc", "a new document"},
+           {"voxbench import bracket.inp -o bracket.voxdoc --force", "the same, over an older one"}},
+          {{kExitDone, "the document was written"},
+           {kExitSomeFailed, "the output cannot be written"},
+           {kExitWrongUsage, "wrong usage"},
+           {kExitUnreadable, "FILE cannot be read"},
+           {kExitNotWritten, "DOCUMENT cannot be written, or is there already: it is as it was"}}};
+}
+
+void ImportCommand::DeclareOptions(CLI::App& ioParser)
+{
+  _File.Declare(ioParser);
+  ioParser.get_option("FILE")->description("The keyword deck (.inp, .inp.gz)");
+  ioParser.add_option("-o,--output", _Document, "The document to write (.voxdoc)")->required()->option_text("DOCUMENT");
+  ioParser.add_flag("--force", _Force, "Replace DOCUMENT if it is there already");
+}
+
+int ImportCommand::Run(Console& ioConsole)
+{
+  if (IsDocumentFile(_File.file))
+  {
+    ioConsole.errors << fmt::format("voxbench import: {} is a document, no deck: copy the file to have another one\n",
+                                    _File.file);
+    return kExitUnreadable;
+  }
+  if (const std::string reason = ReasonToRefuse(); !reason.empty())
+    return Refuse(reason, ioConsole);
+  LoadedModel model;
+  if (const int code = OpenModel(_File.file, ioConsole, model); code != kExitDone)
+    return code;
+  std::string reason;
+  {
+    Progress progress(ioConsole.errors, "Writing " + _Document, ioConsole.errorsAreTerminal);
+    reason =
+        WriteDocumentFile(_Document, model, _Force,
+                          [&progress](std::uint64_t iDone, std::uint64_t iTotal) { progress.Report(iDone, iTotal); });
+  }
+  if (!reason.empty())
+    return Refuse(reason, ioConsole);
+
+  const ImportResult result = DescribeImport(_File.file, _Document, model);
+  Output output(ioConsole.out);
+  if (_File.json)
+    WriteImportJson(output, result);
+  else
+    PrintImport(output, result);
+  return FinishOutput(output, ioConsole, kExitDone);
+}
+
+//! What can be said before a deck of gigabytes is read.
+std::string ImportCommand::ReasonToRefuse() const
+{
+  std::error_code unknown;
+  if (std::filesystem::equivalent(_File.file, _Document, unknown))
+    return fmt::format("{} is the deck itself: give the document another name", _Document);
+  if (!_Force && std::filesystem::exists(_Document, unknown))
+    return fmt::format("{} is there already: give another name, or --force to replace it", _Document);
+  return "";
+}
+
+int ImportCommand::Refuse(const std::string& iReason, Console& ioConsole) const
+{
+  ioConsole.errors << "voxbench import: " << iReason << '\n';
+  return kExitNotWritten;
+}
+
+} // namespace voxbench

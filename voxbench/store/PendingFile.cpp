@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "voxbench/store/PendingFile.h"
+#include "voxbench/store/Database.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <fmt/format.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace voxbench
+{
+namespace
+{
+
+[[noreturn]] void Fail(const std::string& iFile, const char* iWhat)
+{
+  throw StoreError(fmt::format("{} cannot be {}: {}.", iFile, iWhat, std::strerror(errno)));
+}
+
+//! A descriptor, closed with its object.
+class Opened
+{
+public:
+  Opened(const std::string& iFile, int iFlags, const char* iWhat, mode_t iMode = 0666)
+      : _Handle(open(iFile.c_str(), iFlags | O_CLOEXEC, iMode))
+  {
+    if (_Handle < 0)
+      Fail(iFile, iWhat);
+  }
+  Opened(const Opened&) = delete;
+  Opened& operator=(const Opened&) = delete;
+  ~Opened() { close(_Handle); }
+
+  int Handle() const { return _Handle; }
+
+private:
+  int _Handle;
+};
+
+std::string FolderOf(const std::string& iFile)
+{
+  const std::string folder = std::filesystem::path(iFile).parent_path().string();
+  return folder.empty() ? "." : folder;
+}
+
+std::string WhereALinkLeads(const std::string& iFile)
+{
+  std::error_code unknown;
+  if (!std::filesystem::is_symlink(iFile, unknown))
+    return iFile;
+  const std::filesystem::path led = std::filesystem::weakly_canonical(iFile, unknown);
+  return unknown ? iFile : led.string();
+}
+
+void WriteAll(int iHandle, const char* iData, std::size_t iSize, const std::string& iFile)
+{
+  while (iSize > 0)
+  {
+    const ssize_t written = write(iHandle, iData, iSize);
+    if (written < 0 && errno == EINTR)
+      continue;
+    if (written <= 0)
+      Fail(iFile, "written");
+    iData += written;
+    iSize -= static_cast<std::size_t>(written);
+  }
+}
+
+} // namespace
+
+PendingFile::PendingFile(const std::string& iTarget)
+    : _Target(WhereALinkLeads(iTarget)),
+      _Path(fmt::format("{}.part-{}", _Target, getpid()))
+{
+  std::error_code missing;
+  const auto kind = std::filesystem::status(_Target, missing).type();
+  if (kind != std::filesystem::file_type::not_found && kind != std::filesystem::file_type::regular)
+    throw StoreError(fmt::format("{} is no ordinary file: give another name.", iTarget));
+  const Opened made(_Path, O_WRONLY | O_CREAT | O_TRUNC, "made");
+}
+
+PendingFile::~PendingFile()
+{
+  if (!_IsPlaced)
+    unlink(_Path.c_str());
+}
+
+void PendingFile::CopyFrom(const std::string& iFile) const
+{
+  const Opened source(iFile, O_RDONLY, "read");
+  const Opened target(_Path, O_WRONLY | O_TRUNC, "written");
+  struct stat known
+  {
+  };
+  if (fstat(source.Handle(), &known) == 0 && fchmod(target.Handle(), known.st_mode & 07777) != 0)
+    Fail(_Path, "given the permissions of the old file");
+  std::vector<char> block(std::size_t{1} << 20);
+  for (;;)
+  {
+    const ssize_t got = read(source.Handle(), block.data(), block.size());
+    if (got < 0 && errno == EINTR)
+      continue;
+    if (got < 0)
+      Fail(iFile, "read");
+    if (got == 0)
+      return;
+    WriteAll(target.Handle(), block.data(), static_cast<std::size_t>(got), _Path);
+  }
+}
+
+void PendingFile::Replace()
+{
+  Settle();
+  if (rename(_Path.c_str(), _Target.c_str()) != 0)
+    Fail(_Target, "replaced");
+  _IsPlaced = true;
+  SettleFolder();
+}
+
+bool PendingFile::TakeFreePlace()
+{
+  Settle();
+  if (link(_Path.c_str(), _Target.c_str()) != 0)
+  {
+    if (errno == EEXIST)
+      return false;
+    Fail(_Target, "made");
+  }
+  unlink(_Path.c_str());
+  _IsPlaced = true;
+  SettleFolder();
+  return true;
+}
+
+void PendingFile::Settle() const
+{
+  const Opened file(_Path, O_RDWR, "written");
+  if (fsync(file.Handle()) != 0)
+    Fail(_Path, "written");
+}
+
+//! The new name counts once the folder is on the disk. A file system that cannot do it keeps its own order.
+void PendingFile::SettleFolder() const
+{
+  const int folder = open(FolderOf(_Target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (folder < 0)
+    return;
+  fsync(folder);
+  close(folder);
+}
+
+} // namespace voxbench
