@@ -161,8 +161,11 @@ TEST_F(VOXEExpressionCollectorDeleting, ExpressionsThatWereNotListedStay)
 TEST_F(VOXEExpressionCollectorDeleting, ListedExpressionsThatWentMeanwhileAreLeftOut)
 {
   world->Count();
+  world->Add("fourth");
+  Update();
+  world->Count();
   world->Expressions()[0].Delete();
-  world->Expressions()[1].Delete();
+  world->Expressions()[2].Delete();
   EXPECT_EQ(DeleteAll(), S_OK);
   EXPECT_EQ(world->Children(), kOthers);
 }

@@ -211,6 +211,7 @@ TEST_F(VOXEExpressionCollectorFailures, OnlyListExpressionAndDeletionOfAllLeaveT
   for (const auto& [way, isGuarded] :
        std::vector<std::pair<Way, bool>>{{{kCreateList, List}, true},
                                          {{kChildren, List}, true},
+                                         {{kQuery, Expression}, true},
                                          {{kParent, Expression}, true},
                                          {{kContents, Expression}, true},
                                          {{kLink, Expression}, true},
@@ -236,7 +237,11 @@ TEST_F(VOXEExpressionCollectorFailures, OnlyListExpressionAndDeletionOfAllLeaveT
     Get(*world, number, static_cast<unsigned char>(collects));
     EXPECT_EQ(ErrorDepthHandler::_MustJump_, 1);
   }
-  ErrorDepthHandler::_MustJump_ = 1;
+  for (VOXAnalysisExplicitExpression& expression : world->Expressions())
+    (*world)->DeleteExpression(expression);
+  ErrorDepthHandler::_MustJump_ = 5;
+  EXPECT_EQ(Get(*world, 0, 0), E_FAIL) << "none left";
+  EXPECT_EQ(ErrorDepthHandler::_MustJump_, 1);
 }
 
 TEST_F(VOXEExpressionCollectorFailures, ASuccessLeavesJumpsAlone)

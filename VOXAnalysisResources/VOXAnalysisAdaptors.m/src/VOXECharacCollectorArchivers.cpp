@@ -102,39 +102,59 @@ struct Definition
   int frame = 0;
 };
 
-int IndexOf(const VOXString& iPosition, const VOXString* iPositions, int iCount)
+// Place of the next equal value from iFrom on; iCount or more when there is none. A loop of its own, since fetching an
+// archiver costs little else.
+template <class Value>
+int NextPlaceOf(const Value& iValue, const Value* iValues, int iFrom, int iCount)
 {
-  for (int k = 0; k < iCount; ++k)
-    if (iPositions[k] == iPosition)
-      return k;
-  return -1;
+  int place = iFrom;
+  while (place < iCount && !(iValues[place] == iValue))
+    ++place;
+  return place;
+}
+
+// Of numbers: blocks that the compiler compares at once.
+int NextPlaceOf(int iValue, const int* iValues, int iFrom, int iCount)
+{
+  constexpr int kBlock = 8;
+  int place = iFrom;
+  for (bool isInBlock = false; place + kBlock <= iCount; place += kBlock)
+  {
+    for (int i = 0; i < kBlock; ++i)
+      isInBlock |= iValues[place + i] == iValue;
+    if (isInBlock)
+      break;
+  }
+  while (place < iCount && iValues[place] != iValue)
+    ++place;
+  return place;
 }
 
 // First match in version order, then in position order. The variant flag takes no part in the comparison of versions:
 // Kept: any flag that is not 0 selects the second half of the slots, which begins behind the versions offered now, not
 // behind those that the area was built for.
-HRESULT LocateInType(const VOXICharacCollector_var& iFeature, int iPhysicalType, const VOXSamCharacVersion& iVersion,
+HRESULT LocateInType(VOXICharacCollector& iFeature, int iPhysicalType, const VOXSamCharacVersion& iVersion,
                      const VOXString& iPosition, Place& oPlace)
 {
   VOXSamCharacVersion plainVersion = iVersion;
   plainVersion._Variant = 0;
   int nbVersions = 0;
   const VOXSamCharacVersion* versions = nullptr;
-  const HRESULT versionsResult = iFeature->GetAvailableVersions(iPhysicalType, nbVersions, versions);
+  const HRESULT versionsResult = iFeature.GetAvailableVersions(iPhysicalType, nbVersions, versions);
   if (FAILED(versionsResult))
     return versionsResult;
 
-  for (int j = 0; j < nbVersions && !oPlace.IsFound(); ++j)
+  int j = -1;
+  while (!oPlace.IsFound() && (j = NextPlaceOf(plainVersion, versions, j + 1, nbVersions)) < nbVersions)
   {
-    if (!(versions[j] == plainVersion))
-      continue;
     int nbPositions = 0;
     const VOXString* positions = nullptr;
-    const HRESULT result = iFeature->GetAvailablePositions(iPhysicalType, versions[j], nbPositions, positions);
+    const HRESULT result = iFeature.GetAvailablePositions(iPhysicalType, versions[j], nbPositions, positions);
     if (FAILED(result))
       return result;
-    oPlace.position = IndexOf(iPosition, positions, nbPositions);
-    oPlace.slot = iVersion._Variant != 0 ? j + nbVersions : j;
+    const int k = NextPlaceOf(iPosition, positions, 0, nbPositions);
+    if (k < nbPositions)
+      oPlace = {iVersion._Variant != 0 ? j + nbVersions : j, k};
   }
   return S_OK;
 }
@@ -143,9 +163,9 @@ HRESULT LocateInType(const VOXICharacCollector_var& iFeature, int iPhysicalType,
 
 HRESULT VOXECharacCollector::InitCollectorArchiversStorageArea()
 {
-  const ErrorDepthHandler errorDepth;
   if (_Archivers != nullptr)
     return S_OK;
+  const ErrorDepthHandler errorDepth;
   const auto cleanUp = [this] { return ResetCollectorArchiversStorageArea(); };
   static voxframe::LoopGuard loopGuard{VOX_SITE};
   const voxframe::GuardedExit exit(loopGuard, cleanUp);
@@ -250,20 +270,17 @@ HRESULT VOXECharacCollector::LocateCollectorArchiver(int iPhysicalType, const VO
     return ReportAndFail(VOX_FAILED_CALL);
 
   Place place;
-  for (int t = 0; t < nbTypes && !place.IsFound(); ++t)
-  {
-    if (types[t] != iPhysicalType)
-      continue;
-    if (FAILED(LocateInType(spFeature, types[t], iVersion, iPosition, place)))
+  int t = -1;
+  while (!place.IsFound() && (t = NextPlaceOf(iPhysicalType, types, t + 1, nbTypes)) < nbTypes)
+    if (FAILED(LocateInType(*spFeature, types[t], iVersion, iPosition, place)))
       return ReportAndFail(VOX_FAILED_CALL);
-    // The feature may offer other versions by now than the area was built for: what has no place in it is not found.
-    const Area area{_NbVersionSlots, _NbPositions, _Archivers};
-    if (!place.IsFound() || t >= _NbPhysicalTypes || !area.Holds(t, place.slot, place.position, iVersion._Variant != 0))
-      continue;
-    oPhysicalTypeIndex = t;
-    oVersionIndex = place.slot;
-    oPositionIndex = place.position;
-  }
+  // The feature may offer other versions by now than the area was built for: what has no place in it is not found.
+  const Area area{_NbVersionSlots, _NbPositions, _Archivers};
+  if (!place.IsFound() || t >= _NbPhysicalTypes || !area.Holds(t, place.slot, place.position, iVersion._Variant != 0))
+    return S_OK;
+  oPhysicalTypeIndex = t;
+  oVersionIndex = place.slot;
+  oPositionIndex = place.position;
   return S_OK;
 }
 
@@ -272,7 +289,7 @@ HRESULT VOXECharacCollector::GetCollectorArchiver(int iPhysicalType, const VOXSa
 {
   const ErrorDepthHandler errorDepth;
   oArchiver = nullptr;
-  if (FAILED(InitCollectorArchiversStorageArea()))
+  if (_Archivers == nullptr && FAILED(InitCollectorArchiversStorageArea()))
     return ReportAndFail(VOX_FAILED_CALL);
   int t = -1;
   int s = -1;
@@ -303,7 +320,7 @@ HRESULT VOXECharacCollector::SetCollectorArchiver(int iPhysicalType, const VOXSa
                                                   const VOXString& iPosition, VOXAnalysisCollectorArchiver* iArchiver)
 {
   const ErrorDepthHandler errorDepth;
-  if (FAILED(InitCollectorArchiversStorageArea()))
+  if (_Archivers == nullptr && FAILED(InitCollectorArchiversStorageArea()))
     return ReportAndFail(VOX_FAILED_CALL);
   int t = -1;
   int s = -1;
