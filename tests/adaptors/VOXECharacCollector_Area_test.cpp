@@ -282,6 +282,27 @@ TEST_F(VOXECharacCollectorArea, IsSearchedWithinTheCountsOfEachQuery)
   EXPECT_EQ(Locate(22, Version(3), "NODE"), kNowhere);
 }
 
+TEST_F(VOXECharacCollectorArea, HasEveryPlaceOfALongListOfTypes)
+{
+  std::vector<int>& types = world->Told().types;
+  types.clear();
+  for (int t = 0; t < 29; ++t)
+  {
+    types.push_back(100 + t);
+    world->Told().versions[types.back()] = {Version(1)};
+  }
+  Build();
+  for (int t = 0; t < 29; ++t)
+    EXPECT_EQ(Locate(100 + t, Version(1), "NODE"), (Place{S_OK, t, 0, 0}));
+  EXPECT_EQ(Locate(99, Version(1), "NODE"), kNowhere);
+  for (const int count : {28, 24, 16, 8, 7})
+  {
+    world->Told().nbTypes = count;
+    EXPECT_EQ(Locate(99 + count, Version(1), "NODE"), (Place{S_OK, count - 1, 0, 0})) << "the last one";
+    EXPECT_EQ(Locate(100 + count, Version(1), "NODE"), kNowhere) << "the first behind the count";
+  }
+}
+
 TEST_F(VOXECharacCollectorArea, IsLeftUnsearchedWhenAQueryFails)
 {
   Build();
