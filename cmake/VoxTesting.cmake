@@ -57,5 +57,6 @@ function(vox_discover_cases name filter)
     ${name}
     TEST_FILTER ${filter}
     DISCOVERY_TIMEOUT 120
-    PROPERTIES ${labels} ENVIRONMENT "VOX_DECKS=${VOX_DECKS}")
+    PROPERTIES ${labels} ENVIRONMENT "VOX_DECKS=${VOX_DECKS}"
+               ENVIRONMENT_MODIFICATION "LSAN_OPTIONS=set:suppressions=${PROJECT_SOURCE_DIR}/tests/leaks.supp")
 endfunction()

@@ -33,7 +33,7 @@ std::vector<std::string> FirstExampleOn(const voxbench::CommandDescription& iCom
   std::istringstream words(iCommand.examples.front().line);
   std::vector<std::string> arguments;
   for (std::string word; words >> word;)
-    arguments.push_back(word == "bracket.inp" ? iFile : word);
+    arguments.push_back(word == "bracket.inp" || word == "bracket.frd" ? iFile : word);
   arguments.erase(arguments.begin()); // the program itself
   return arguments;
 }

@@ -193,8 +193,14 @@ void ModelBuilder::BuildModulations()
 {
   const Pair modulations = MakeSet("ModulationSet", "MODULATION_SET", "Modulations");
   for (const Amplitude& amplitude : _Records.amplitudes)
-    MakeEntity(modulations, {kModulationType, "MODULATION", NextName("AMPLITUDE"), amplitude.name}, "AMPLITUDE",
-               amplitude.card.step);
+  {
+    const Pair made = MakeEntity(modulations, {kModulationType, "MODULATION", NextName("AMPLITUDE"), amplitude.name},
+                                 "AMPLITUDE", amplitude.card.step);
+    voxhost::ExpressionData table;
+    for (std::size_t point = 0; point < amplitude.times.size(); ++point)
+      table.table.emplace_back(amplitude.times[point], amplitude.values[point]);
+    _Model.SetExpression(_Model.Create(made.object, "EXPRESSION", amplitude.name), std::move(table));
+  }
 }
 
 void ModelBuilder::BuildSensors()

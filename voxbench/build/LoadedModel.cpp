@@ -28,10 +28,10 @@ std::vector<voxhost::Feature*> HeldBy(const voxhost::Feature& iFeature, bool iBa
 LoadedModel::LoadedModel() = default;
 LoadedModel::~LoadedModel() = default;
 
-std::string LoadedModel::Build(NeutralModel ioRecords)
+std::string LoadedModel::Build(NeutralModel ioRecords, std::shared_ptr<const voxhost::ExplicitRules> iRules)
 {
   _Records = std::move(ioRecords);
-  _Explicit = std::make_unique<voxhost::ExplicitModel>();
+  _Explicit = std::make_unique<voxhost::ExplicitModel>(std::move(iRules));
   _Document = std::make_unique<voxhost::Document>(WorkbenchTypes());
   _Document->SetExplicitModel(_Explicit.get());
   ModelBuilder builder(_Records, *_Document, *_Explicit);

@@ -26,7 +26,9 @@ public:
   LoadedModel& operator=(const LoadedModel&) = delete;
 
   //! Makes document and explicit model; once. @return what is wrong, a sentence: the model is then of no use; else "".
-  std::string Build(NeutralModel ioRecords);
+  //! @param iRules what the explicit model may be made of.
+  std::string Build(NeutralModel ioRecords,
+                    std::shared_ptr<const voxhost::ExplicitRules> iRules = voxhost::ExplicitRules::Default());
 
   //! Takes over what a store kept; once. @return false when the document has no analysis model.
   bool Restore(NeutralModel ioRecords, std::unique_ptr<voxhost::ExplicitModel> iExplicit,

@@ -1,31 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/GroupContent.h"
 #include "AnalysisInterfaces/VOXISamGroup.h"
-#include "host/AnalysisCore/ErrorLog.h"
 #include "host/ExplicitModel/ModelObject.h"
+#include "voxbench/commands/FailureReason.h"
 
 #include <algorithm>
-#include <fmt/format.h>
 #include <tuple>
 
 namespace voxbench
 {
 namespace
 {
-
-//! What the host's error service was told since the count of reports was iBefore.
-std::string ReasonSince(std::size_t iBefore, const char* iOperation)
-{
-  const auto& reports = voxhost::ErrorLog::Reports();
-  if (reports.size() <= iBefore)
-    return fmt::format("{} failed without a report", iOperation);
-  const voxhost::ErrorReport& first = reports[iBefore];
-  std::string reason =
-      fmt::format("{} failed: error {} at {}:{}", iOperation, static_cast<int>(first.kind), first.file, first.line);
-  if (!first.text.empty())
-    reason += fmt::format(" ({})", first.text);
-  return reason;
-}
 
 void CopyEntities(int iCount, VOXSamModelDataRoot* const* iObjects, const int* iIndices, GroupContent& ioContent)
 {
@@ -96,7 +81,7 @@ GroupContent AskContent(voxhost::Feature& iGroup, const GroupKind& iKind, bool i
 {
   GroupContent content;
   const VOXISamGroup_var spGroup(&iGroup);
-  const std::size_t reportsBefore = voxhost::ErrorLog::Reports().size();
+  const std::size_t reportsBefore = FailuresReported();
   const VOXAnalysisEntityCollector* pCollector = nullptr;
   if (!spGroup || FAILED(spGroup->GetContent(iKind.value, iKind.keyword, pCollector)))
   {

@@ -5,10 +5,12 @@
 #include "ComponentRuntime/VOXTypeDictionary.h"
 #include "VOXESamConnectionDesignAdaptor.h"
 #include "voxbench/features/DeckAxis.h"
+#include "voxbench/features/DeckExpressions.h"
 #include "voxbench/features/EntityFeatures.h"
 #include "voxbench/features/GatheredGroup.h"
 #include "voxbench/features/GroupFeatures.h"
 #include "voxbench/features/SelectionLists.h"
+#include "voxbench/features/SolutionResults.h"
 #include "voxbench/features/TypeNames.h"
 
 #include <string>
@@ -126,7 +128,8 @@ std::vector<TypeDeclaration> OwnTypes()
           Entity(kMassType, "AnalysisMass"),
           Property(kPropertyType),
           Entity(kModulationType, "AnalysisModulation"),
-          Entity(kSensorType, "AnalysisSensor")};
+          Entity(kSensorType, "AnalysisSensor"),
+          {.name = kSolutionType, .base = "AnalysisEntity", .physicalType = "SOLUTION", .attributes = {Text("File")}}};
 }
 
 void DeclareAdaptors()
@@ -143,6 +146,10 @@ void DeclareAdaptors()
   VOXExtendLateType<VOXISamGroup, GatheredElementGroup>(kMaterialGroupType);
   VOXExtendLateType<VOXISamAnalysisAxis, DeckAxis>(kAxisType);
   VOXTieLateType<VOXISamConnectionDesign, VOXTieConnectionDesign<VOXESamConnectionDesignAdaptor>>(kConnectionType);
+  for (const char* const publisher : {kModulationType, kConstraintType})
+    VOXTieLateType<VOXIExpressionCollector, VOXTieExpressionCollector<DeckExpressions>>(publisher);
+  VOXExtendLateType<SolutionData, SolutionData>(kSolutionType);
+  VOXTieLateType<VOXICharacCollector, SolutionTie>(kSolutionType);
   VOXTieLateType<VOXISamSelectionList, VOXTieSelectionList<SectionKindManager>>(kSectionKindType);
   VOXTieLateType<VOXISamSelectionList, VOXTieSelectionList<RestraintKindManager>>(kRestraintKindType);
 }

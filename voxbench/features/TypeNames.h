@@ -21,6 +21,7 @@ inline constexpr const char* kSensorType = "DeckSensor";
 inline constexpr const char* kAxisType = "DeckAxis";
 inline constexpr const char* kConnectionType = "DeckConnection";
 inline constexpr const char* kConnectionSideType = "DeckConnectionSide";
+inline constexpr const char* kSolutionType = "Solution";
 
 //! Basic components: choices, and the numbers that they need.
 inline constexpr const char* kSectionKindType = "SectionKind";

@@ -22,4 +22,10 @@ const char* NameOf(ResultKind iKind)
   return "frequency";
 }
 
+std::string NameOfImaginaryPart(const std::string& iName)
+{
+  constexpr std::size_t kLongestName = 8;
+  return iName.substr(0, kLongestName - 1) + "I";
+}
+
 } // namespace voxbench

@@ -24,6 +24,9 @@ enum class ResultKind : std::uint8_t
 //! "static", "time", "mode", "buckling", "frequency".
 const char* NameOf(ResultKind iKind);
 
+//! What a file calls the imaginary part of a quantity: an I behind its name, in place of the last letter when it is full.
+std::string NameOfImaginaryPart(const std::string& iName);
+
 //! One state of the analysis that values belong to: an increment, a mode, a frequency.
 struct ResultState
 {

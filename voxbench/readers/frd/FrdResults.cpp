@@ -12,14 +12,6 @@ namespace voxbench::frd
 namespace
 {
 
-constexpr std::size_t kNameLength = 8;
-
-//! What the file calls the imaginary part of a block: an I behind the name, in place of the last letter when it is full.
-std::string NameOfImaginaryPart(const std::string& iName)
-{
-  return iName.substr(0, kNameLength - 1) + "I";
-}
-
 bool HaveTheSameShape(const ResultBlock& iLeft, const ResultBlock& iRight)
 {
   return iLeft.state == iRight.state && iLeft.components.size() == iRight.components.size();

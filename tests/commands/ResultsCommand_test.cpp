@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "JsonSchema.h"
+#include "RunProgram.h"
+#include "host/Instruments/Faults.h"
+#include "tests/readers/FrdBench.h"
+
+#include <gmock/gmock.h>
+
+using nlohmann::json;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using voxtest::RunInProcess;
+namespace frdtext = voxbench::frdtext;
+
+namespace
+{
+
+const std::string kFile = voxtest::DataFile("block.frd");
+using Words = std::vector<std::string>;
+
+json Asked(const std::string& iSchema, const Words& iArguments, int iCode)
+{
+  Words arguments{"results"};
+  arguments.insert(arguments.end(), iArguments.begin(), iArguments.end());
+  arguments.emplace_back("--json");
+  const auto run = RunInProcess(arguments);
+  EXPECT_EQ(run.code, iCode) << run.errors;
+  const json output = json::parse(run.out);
+  EXPECT_EQ(voxtest::Violations(voxtest::SchemaOf(iSchema), output), Words{});
+  return output;
+}
+
+json Listing(const std::string& iFile)
+{
+  return Asked("results", {iFile}, 0);
+}
+
+json Values(const Words& iArguments, int iCode = 0)
+{
+  return Asked("results-values", iArguments, iCode);
+}
+
+//! A result file of displacements with imaginary parts in its second state, and temperatures in the first.
+std::string ComplexFile()
+{
+  using namespace frdtext;
+  const std::string second = StepRecord(2, 1, 2);
+  return voxtest::TemporaryFile(
+      "complex.frd", Mesh() + StepRecord(1, 1, 1) + Block("DISP", {"D1"}, ResultsHead(1, " 0.500000000", 4, 1)) +
+                         StepRecord(1, 1, 1) + Block("NDTEMP", {"T"}, ResultsHead(1, " 0.500000000", 4, 1)) + second +
+                         Block("DISP", {"D1"}, ResultsHead(2, " 7.000000000", 4, 1)) + second +
+                         Block("DISPI", {"D1"}, ResultsHead(2, " 7.000000000", 4, 1)) + kFileEnd);
+}
+
+//! One state of temperatures on four nodes, one of them no number.
+std::string FileWithAHole()
+{
+  using namespace frdtext;
+  return voxtest::TemporaryFile("hole.frd", Mesh() + ResultsHead(1, " 1.000000000", 4, 0) + Names("NDTEMP", {"T"}) +
+                                                Row(1, {20.}) + " -1         2         NaN\n" + Row(3, {10.}) +
+                                                Row(4, {30.}) + kBlockEnd + kFileEnd);
+}
+
+Words VersionsOf(const json& iType)
+{
+  Words versions;
+  for (const json& available : iType["available"])
+    versions.push_back(available["version"]);
+  return versions;
+}
+
+} // namespace
+
+TEST(ResultsCommand, ListingIsThatOfTheGoldenFile)
+{
+  const auto run = voxtest::RunBuiltProgram({"results", kFile});
+  EXPECT_EQ(run.code, 0) << run.errors;
+  EXPECT_EQ(voxtest::DifferenceToGolden("block.results.txt", run.out), "");
+}
+
+TEST(ResultsCommand, ValuesAreThoseOfTheGoldenFile)
+{
+  const auto run = voxtest::RunBuiltProgram(
+      {"results", kFile, "--type", "U", "--version", "all", "--group", "TIP", "--group", "END"});
+  EXPECT_EQ(run.code, 0) << run.errors;
+  EXPECT_EQ(voxtest::DifferenceToGolden("block.results-values.txt", run.out), "");
+}
+
+TEST(ResultsCommand, CommaSeparatedValuesAreThoseOfTheGoldenFile)
+{
+  const auto run = RunInProcess({"results", kFile, "--type", "STRESS", "--csv"});
+  EXPECT_EQ(run.code, 0) << run.errors;
+  EXPECT_EQ(voxtest::DifferenceToGolden("block.results.csv", run.out), "");
+}
+
+TEST(ResultsCommand, EveryTypeTellsItsComponentsVersionsAndPositions)
+{
+  const json listing = Listing(kFile);
+  ASSERT_EQ(listing["types"].size(), 4u);
+  const json& disp = listing["types"][0];
+  EXPECT_EQ(disp["type"], "DISP");
+  EXPECT_EQ(disp["components"], (json{"D1", "D2", "D3"}));
+  EXPECT_THAT(VersionsOf(disp), ElementsAre("1", "2"));
+  EXPECT_EQ(disp["available"][0]["positions"], json{"NODE"});
+  EXPECT_EQ(listing["versions"][1]["step"], 2);
+}
+
+TEST(ResultsCommand, AnImaginaryPartIsAVersionOfItsOwn)
+{
+  const json listing = Listing(ComplexFile());
+  EXPECT_THAT(VersionsOf(listing["types"][0]), ElementsAre("1", "2", "2i"));
+  EXPECT_THAT(VersionsOf(listing["types"][1]), ElementsAre("1"));
+
+  const json tables = Values({ComplexFile(), "--type", "DISP", "--version", "2i"})["tables"];
+  ASSERT_EQ(tables.size(), 1u);
+  EXPECT_EQ(tables[0]["version"]["imaginary"], true);
+  EXPECT_EQ(tables[0]["version"]["kind"], "frequency");
+}
+
+TEST(ResultsCommand, AnImaginaryPartThatIsNotThereIsAFailure)
+{
+  const auto run = RunInProcess({"results", ComplexFile(), "--type", "NDTEMP", "--version", "1i"});
+  EXPECT_EQ(run.code, 1);
+  EXPECT_THAT(run.errors, HasSubstr("has no values of type NDTEMP, version 1i, at NODE"));
+}
+
+TEST(ResultsCommand, TheLastVersionIsShownUnlessAnotherIsAskedFor)
+{
+  EXPECT_EQ(Values({kFile, "--type", "DISP"})["tables"][0]["version"]["version"], "2");
+  EXPECT_EQ(Values({kFile, "--type", "DISP", "--version", "1"})["tables"][0]["version"]["version"], "1");
+  EXPECT_EQ(Values({kFile, "--type", "DISP", "--version", "all"})["tables"].size(), 2u);
+}
+
+TEST(ResultsCommand, AGroupOfNodesHasTheValuesOfItsNodes)
+{
+  const json group = Values({kFile, "--type", "DISP", "--version", "1", "--group", "TIP"})["tables"][0]["groups"][0];
+  EXPECT_EQ(group["kind"], "NODE");
+  EXPECT_EQ(group["values"][0], (json{3, 0.00363002, 0.000272251, 0.000272251}));
+  EXPECT_EQ(group["values"].size(), 4u);
+}
+
+TEST(ResultsCommand, AGroupOfElementsOrFacesStandsForTheirNodes)
+{
+  const json groups = Values({kFile, "--type", "DISP", "--group", "OUTER", "--group", "END"})["tables"][0]["groups"];
+  const auto nodesOf = [](const json& iGroup)
+  {
+    std::vector<int> nodes;
+    for (const json& row : iGroup["values"])
+      nodes.push_back(row[0]);
+    return nodes;
+  };
+  ASSERT_EQ(groups.size(), 2u);
+  EXPECT_THAT(nodesOf(groups[0]), ElementsAre(2, 3, 5, 6, 12, 13, 15, 16));
+  EXPECT_THAT(nodesOf(groups[1]), ElementsAre(3, 6, 13, 16));
+}
+
+TEST(ResultsCommand, ExtremesTellNodeAndPlace)
+{
+  const json group = Values({kFile, "--type", "DISP", "--extremes"})["tables"][0]["groups"][0];
+  EXPECT_FALSE(group.contains("values"));
+  EXPECT_EQ(group["extremes"][0]["maximum"], (json{{"value", 0.00418488}, {"node", 3}, {"place", {20., 0., 0.}}}));
+}
+
+TEST(ResultsCommand, ACollectorWithAllItsValuesIsArchived)
+{
+  const json collector = Values({kFile, "--type", "DISP"})["tables"][0]["collector"];
+  EXPECT_EQ(collector, (json{{"entities", 12}, {"withValues", 12}, {"upToDate", true}, {"archiver", "streamable"}}));
+}
+
+TEST(ResultsCommand, ACollectorWithAHoleIsNotArchivedAndItsExtremesPassOverTheHole)
+{
+  const json table = Values({FileWithAHole(), "--type", "NT"})["tables"][0];
+  EXPECT_EQ(table["collector"], (json{{"entities", 4}, {"withValues", 3}, {"upToDate", true}, {"archiver", "none"}}));
+  EXPECT_EQ(table["groups"][0]["extremes"][0]["minimum"]["node"], 3);
+  EXPECT_EQ(table["groups"][0]["values"][1], (json{2, nullptr}));
+}
+
+TEST(ResultsCommand, WhatWasCollectedIsDeletedOneByOneOrAtOnce)
+{
+  EXPECT_EQ(Values({kFile, "--type", "DISP", "--version", "all", "--delete"})["deleted"],
+            (json{{"operation", "DeleteCharacCollector"}, {"deleted", 2}, {"left", 0}}));
+  EXPECT_EQ(Asked("results", {kFile, "--delete"}, 0)["deleted"],
+            (json{{"operation", "DeleteAll"}, {"deleted", 8}, {"left", 0}}));
+}
+
+TEST(ResultsCommand, ADeletionLeavesTheFileAsItIs)
+{
+  const std::string before = voxtest::ReadText(kFile);
+  RunInProcess({"results", kFile, "--delete"});
+  EXPECT_EQ(voxtest::ReadText(kFile), before);
+}
+
+TEST(ResultsCommand, AnUnknownTypeIsAFailureThatNamesThoseThatExist)
+{
+  const auto run = RunInProcess({"results", kFile, "--type", "NDTEMP"});
+  EXPECT_EQ(run.code, 1);
+  EXPECT_THAT(run.errors, HasSubstr("has no values of type NDTEMP: it has DISP, STRESS, FORC, ERROR"));
+}
+
+TEST(ResultsCommand, AnUnknownPositionOrGroupIsAFailure)
+{
+  EXPECT_EQ(RunInProcess({"results", kFile, "--type", "U", "--position", "CENTER"}).code, 1);
+  const auto run = RunInProcess({"results", kFile, "--type", "U", "--group", "NOWHERE"});
+  EXPECT_EQ(run.code, 1);
+  EXPECT_THAT(run.errors, HasSubstr("has no group named NOWHERE"));
+}
+
+TEST(ResultsCommand, WithoutADeckThereAreNoGroups)
+{
+  EXPECT_EQ(Listing(ComplexFile())["deck"], nullptr);
+  const auto run = RunInProcess({"results", ComplexFile(), "--type", "U", "--group", "TIP"});
+  EXPECT_EQ(run.code, 1);
+  EXPECT_THAT(run.errors, HasSubstr("give it with --deck"));
+}
+
+TEST(ResultsCommand, ADeckMayBeNamed)
+{
+  const json listing = Asked("results", {ComplexFile(), "--deck", voxtest::DataFile("block.inp")}, 0);
+  EXPECT_THAT(listing["groups"], testing::Contains("TIP"));
+}
+
+TEST(ResultsCommand, ADeckThatCannotBeReadCostsTheGroupsAlone)
+{
+  const std::string file = voxtest::TemporaryFile("lonely.frd", frdtext::SmallFile());
+  voxtest::TemporaryFile("lonely.inp", "");
+  const auto beside = RunInProcess({"results", file});
+  EXPECT_EQ(beside.code, 0);
+  EXPECT_THAT(beside.errors, HasSubstr("no groups: "));
+  EXPECT_EQ(RunInProcess({"results", file, "--deck", "/no/such/deck.inp"}).code, 3);
+}
+
+TEST(ResultsCommand, AFileThatIsNoResultFileIsUnreadable)
+{
+  const auto run = RunInProcess({"results", voxtest::DataFile("block.inp")});
+  EXPECT_EQ(run.code, 3);
+  EXPECT_THAT(run.errors, HasSubstr("this is no result file"));
+}
+
+TEST(ResultsCommand, OptionsThatMakeNoSenseAreWrongUsage)
+{
+  EXPECT_EQ(RunInProcess({"results", kFile, "--version", "2"}).code, 2);
+  EXPECT_EQ(RunInProcess({"results", kFile, "--type", "U", "--version", "x"}).code, 2);
+  EXPECT_EQ(RunInProcess({"results", kFile, "--csv", "--json"}).code, 2);
+}
+
+TEST(ResultsCommand, ACollectorThatCannotBeFilledIsATableWithItsReason)
+{
+  voxhost::Faults::FailOperation("VOXAnalysisCharacCollector::SetValues", 1, false);
+  const json table = Values({kFile, "--type", "DISP"}, 1)["tables"][0];
+  voxhost::Faults::Disarm();
+  EXPECT_THAT(table["failure"].get<std::string>(), HasSubstr("GetCharacCollector failed"));
+}
+
+TEST(ResultsCommand, ADeletionThatFailsIsTold)
+{
+  voxhost::Faults::FailOperation("VOXAnalysisExplicitParent::DeleteCharacCollector", 1, false);
+  const auto run = RunInProcess({"results", kFile, "--type", "DISP", "--delete"});
+  voxhost::Faults::Disarm();
+  EXPECT_EQ(run.code, 1);
+  EXPECT_THAT(run.errors, HasSubstr("DeleteCharacCollector failed: error 1"));
+  EXPECT_THAT(run.out, HasSubstr("0 collectors deleted, 1 left"));
+}
