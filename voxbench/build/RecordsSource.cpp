@@ -59,13 +59,13 @@ void RecordsSource::Publish(std::size_t iBlock)
   if (found == _Quantities.end())
   {
     found = _Quantities.insert(found, {type, block.name.c_str(), TitleOf(block.name).c_str(), {}, {kNodePosition}});
-    _Contents.emplace_back();
+    _Blocks.emplace_back();
   }
   const VOXSamCharacVersion version = VersionOf(StateOf(block), block.imaginary);
   if (std::find(found->versions.begin(), found->versions.end(), version) != found->versions.end())
     return;
   found->versions.push_back(version);
-  _Contents[static_cast<std::size_t>(found - _Quantities.begin())].blocks.push_back(iBlock);
+  _Blocks[static_cast<std::size_t>(found - _Quantities.begin())].push_back(iBlock);
 }
 
 const ResultState& RecordsSource::StateOf(const ResultBlock& iBlock) const
@@ -82,7 +82,7 @@ const ResultBlock* RecordsSource::BlockOf(int iPhysicalType, const VOXSamCharacV
     const auto& versions = _Quantities[place].versions;
     const auto found = std::find(versions.begin(), versions.end(), iVersion);
     if (found != versions.end())
-      return &_Records.blocks[_Contents[place].blocks[static_cast<std::size_t>(found - versions.begin())]];
+      return &_Records.blocks[_Blocks[place][static_cast<std::size_t>(found - versions.begin())]];
   }
   return nullptr;
 }

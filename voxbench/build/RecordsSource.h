@@ -42,11 +42,6 @@ public:
   const std::string& Failure() const { return _Failure; }
 
 private:
-  struct Content //!< of a quantity, beside what is published
-  {
-    std::vector<std::size_t> blocks; //!< per version
-  };
-
   void Publish(std::size_t iBlock);
   bool Keep(std::size_t iBlock);
   void Resolve(const ResultBlock& iBlock, Values& oValues) const;
@@ -55,7 +50,7 @@ private:
   const voxhost::ExplicitModel& _Model;
   ReadAgain _ReadAgain;
   std::vector<Quantity> _Quantities;
-  std::vector<Content> _Contents;
+  std::vector<std::vector<std::size_t>> _Blocks; // of the records, per quantity and version
   std::string _Failure;
 };
 

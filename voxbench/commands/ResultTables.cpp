@@ -101,7 +101,6 @@ ResultTables::ResultTables(const LoadedResults& iResults) : _Results(iResults), 
 
 std::vector<ResultDefinition> ResultTables::Available(std::string& oFailure) const
 {
-  std::vector<ResultDefinition> available;
   const std::size_t before = FailuresReported();
   int nbTypes = 0;
   const int* types = nullptr;
@@ -109,32 +108,38 @@ std::vector<ResultDefinition> ResultTables::Available(std::string& oFailure) con
   if (!_Feature || FAILED(_Feature->GetAvailablePhysicalTypes(nbTypes, types, reserved)))
   {
     oFailure = ReasonSince(before, "GetAvailablePhysicalTypes");
-    return available;
+    return {};
   }
+  std::vector<ResultDefinition> available;
   const std::vector<int> typesNow(types, types + nbTypes); // the feature's array may change with the next question
   for (const int type : typesNow)
+    AddAvailable(type, available, oFailure);
+  return available;
+}
+
+void ResultTables::AddAvailable(int iPhysicalType, std::vector<ResultDefinition>& ioAvailable,
+                                std::string& oFailure) const
+{
+  const std::size_t before = FailuresReported();
+  int nbVersions = 0;
+  const VOXSamCharacVersion* versions = nullptr;
+  if (FAILED(_Feature->GetAvailableVersions(iPhysicalType, nbVersions, versions)))
+    oFailure = ReasonSince(before, "GetAvailableVersions");
+  for (int version = 0; version < nbVersions; ++version)
   {
-    int nbVersions = 0;
-    const VOXSamCharacVersion* versions = nullptr;
-    if (FAILED(_Feature->GetAvailableVersions(type, nbVersions, versions)))
-      oFailure = ReasonSince(before, "GetAvailableVersions");
-    for (int version = 0; version < nbVersions; ++version)
+    int nbPositions = 0;
+    const VOXString* positions = nullptr;
+    if (FAILED(_Feature->GetAvailablePositions(iPhysicalType, versions[version], nbPositions, positions)))
+      oFailure = ReasonSince(before, "GetAvailablePositions");
+    for (int position = 0; position < nbPositions; ++position)
     {
-      int nbPositions = 0;
-      const VOXString* positions = nullptr;
-      if (FAILED(_Feature->GetAvailablePositions(type, versions[version], nbPositions, positions)))
-        oFailure = ReasonSince(before, "GetAvailablePositions");
-      for (int position = 0; position < nbPositions; ++position)
-      {
-        unsigned char isAvailable = 0;
-        if (FAILED(_Feature->IsAnAvailableDefinition(type, versions[version], positions[position], isAvailable)))
-          oFailure = ReasonSince(before, "IsAnAvailableDefinition");
-        if (isAvailable != 0)
-          available.push_back({type, versions[version], positions[position]});
-      }
+      unsigned char isAvailable = 0;
+      if (FAILED(_Feature->IsAnAvailableDefinition(iPhysicalType, versions[version], positions[position], isAvailable)))
+        oFailure = ReasonSince(before, "IsAnAvailableDefinition");
+      if (isAvailable != 0)
+        ioAvailable.push_back({iPhysicalType, versions[version], positions[position]});
     }
   }
-  return available;
 }
 
 std::string ResultTables::NameOf(int iPhysicalType) const

@@ -44,6 +44,7 @@ public:
   int Standing() const; //!< number of collectors
 
 private:
+  void AddAvailable(int iPhysicalType, std::vector<ResultDefinition>& ioAvailable, std::string& oFailure) const;
   ResultVersion VersionOf(const ResultDefinition& iDefinition) const;
   std::string TitleOf(int iPhysicalType) const;
   std::string ArchiverOf(const ResultDefinition& iDefinition) const;

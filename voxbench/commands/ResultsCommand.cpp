@@ -206,11 +206,8 @@ void ResultsCommand::Show(const LoadedResults& iResults, const ResultTables& iTa
     for (const voxhost::Feature* const group : iResults.Model().Groups())
       listing.groups.push_back(LoadedModel::DisplayName(*group));
     ioReport.List(listing);
-    for (const ResultDefinition& definition : iAvailable)
-      if (_Delete)
-        iTables.Table(definition, nullptr); // collects
     if (_Delete)
-      ioReport.Tell(iTables.DeleteAll(failure));
+      ioReport.Tell(CollectAndDelete(iTables, iAvailable, failure));
   }
   else
   {
@@ -221,6 +218,15 @@ void ResultsCommand::Show(const LoadedResults& iResults, const ResultTables& iTa
   }
   if (!failure.empty())
     Complain(ioConsole, failure);
+}
+
+ResultsDeleted ResultsCommand::CollectAndDelete(const ResultTables& iTables,
+                                                const std::vector<ResultDefinition>& iAvailable, std::string& oFailure)
+{
+  for (const ResultDefinition& definition : iAvailable)
+    if (const std::string failure = iTables.Table(definition, nullptr).failure; !failure.empty())
+      oFailure = failure;
+  return iTables.DeleteAll(oFailure);
 }
 
 std::vector<ResultDefinition>

@@ -26,6 +26,8 @@ private:
   std::vector<GroupNodes> ChosenGroups(const LoadedResults& iResults, Console& ioConsole);
   void Show(const LoadedResults& iResults, const ResultTables& iTables, const std::vector<ResultDefinition>& iAvailable,
             Console& ioConsole, ResultsReport& ioReport);
+  static ResultsDeleted CollectAndDelete(const ResultTables& iTables, const std::vector<ResultDefinition>& iAvailable,
+                                         std::string& oFailure);
   void ShowTables(const LoadedResults& iResults, const ResultTables& iTables,
                   const std::vector<ResultDefinition>& iChosen, Console& ioConsole, ResultsReport& ioReport);
   void Complain(Console& ioConsole, const std::string& iSentence);
