@@ -139,12 +139,12 @@ TEST_F(AllDecksSlow, TheGroupsOfEachHandOutWhatAPlainReadingFinds)
   }
 }
 
-TEST_F(AllDecksSlow, AxesOwnersChoicesAndConnectionsOfEachAreTold)
+TEST_F(AllDecksSlow, AxesOwnersChoicesConnectionsAndExpressionsOfEachAreTold)
 {
   for (const std::string& deck : decks)
   {
     const int readable = voxtest::RunInProcess({"tree", deck, "--depth", "0"}).code;
-    for (const char* const command : {"axes", "params", "connections"})
+    for (const char* const command : {"axes", "params", "connections", "expressions"})
     {
       const auto run = voxtest::RunInProcess({command, deck, "--json"});
       EXPECT_EQ(run.code, readable) << command << " " << deck << ": " << run.errors;
@@ -205,6 +205,7 @@ TEST_F(AllDecksSlow, TheHostGetsBackAllThatItGave)
     voxtest::RunInProcess({"tree", deck});
     voxtest::RunInProcess({"groups", deck, "--ids"});
     voxtest::RunInProcess({"connections", deck});
+    voxtest::RunInProcess({"expressions", deck, "--delete", "all"});
     voxtest::RunInProcess({"params", deck, "*", "--set", "Membrane"});
     EXPECT_EQ((voxhost::Ledger::Read() - before).Describe(), "balanced") << deck;
   }
