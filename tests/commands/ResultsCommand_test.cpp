@@ -35,7 +35,7 @@ json Listing(const std::string& iFile)
   return Asked("results", {iFile}, 0);
 }
 
-json Values(const Words& iArguments, int iCode = 0)
+json Shown(const Words& iArguments, int iCode = 0)
 {
   return Asked("results-values", iArguments, iCode);
 }
@@ -111,7 +111,7 @@ TEST(ResultsCommand, AnImaginaryPartIsAVersionOfItsOwn)
   EXPECT_THAT(VersionsOf(listing["types"][0]), ElementsAre("1", "2", "2i"));
   EXPECT_THAT(VersionsOf(listing["types"][1]), ElementsAre("1"));
 
-  const json tables = Values({ComplexFile(), "--type", "DISP", "--version", "2i"})["tables"];
+  const json tables = Shown({ComplexFile(), "--type", "DISP", "--version", "2i"})["tables"];
   ASSERT_EQ(tables.size(), 1u);
   EXPECT_EQ(tables[0]["version"]["imaginary"], true);
   EXPECT_EQ(tables[0]["version"]["kind"], "frequency");
@@ -126,14 +126,14 @@ TEST(ResultsCommand, AnImaginaryPartThatIsNotThereIsAFailure)
 
 TEST(ResultsCommand, TheLastVersionIsShownUnlessAnotherIsAskedFor)
 {
-  EXPECT_EQ(Values({kFile, "--type", "DISP"})["tables"][0]["version"]["version"], "2");
-  EXPECT_EQ(Values({kFile, "--type", "DISP", "--version", "1"})["tables"][0]["version"]["version"], "1");
-  EXPECT_EQ(Values({kFile, "--type", "DISP", "--version", "all"})["tables"].size(), 2u);
+  EXPECT_EQ(Shown({kFile, "--type", "DISP"})["tables"][0]["version"]["version"], "2");
+  EXPECT_EQ(Shown({kFile, "--type", "DISP", "--version", "1"})["tables"][0]["version"]["version"], "1");
+  EXPECT_EQ(Shown({kFile, "--type", "DISP", "--version", "all"})["tables"].size(), 2u);
 }
 
 TEST(ResultsCommand, AGroupOfNodesHasTheValuesOfItsNodes)
 {
-  const json group = Values({kFile, "--type", "DISP", "--version", "1", "--group", "TIP"})["tables"][0]["groups"][0];
+  const json group = Shown({kFile, "--type", "DISP", "--version", "1", "--group", "TIP"})["tables"][0]["groups"][0];
   EXPECT_EQ(group["kind"], "NODE");
   EXPECT_EQ(group["values"][0], (json{3, 0.00363002, 0.000272251, 0.000272251}));
   EXPECT_EQ(group["values"].size(), 4u);
@@ -141,7 +141,7 @@ TEST(ResultsCommand, AGroupOfNodesHasTheValuesOfItsNodes)
 
 TEST(ResultsCommand, AGroupOfElementsOrFacesStandsForTheirNodes)
 {
-  const json groups = Values({kFile, "--type", "DISP", "--group", "OUTER", "--group", "END"})["tables"][0]["groups"];
+  const json groups = Shown({kFile, "--type", "DISP", "--group", "OUTER", "--group", "END"})["tables"][0]["groups"];
   const auto nodesOf = [](const json& iGroup)
   {
     std::vector<int> nodes;
@@ -156,20 +156,20 @@ TEST(ResultsCommand, AGroupOfElementsOrFacesStandsForTheirNodes)
 
 TEST(ResultsCommand, ExtremesTellNodeAndPlace)
 {
-  const json group = Values({kFile, "--type", "DISP", "--extremes"})["tables"][0]["groups"][0];
+  const json group = Shown({kFile, "--type", "DISP", "--extremes"})["tables"][0]["groups"][0];
   EXPECT_FALSE(group.contains("values"));
   EXPECT_EQ(group["extremes"][0]["maximum"], (json{{"value", 0.00418488}, {"node", 3}, {"place", {20., 0., 0.}}}));
 }
 
 TEST(ResultsCommand, ACollectorWithAllItsValuesIsArchived)
 {
-  const json collector = Values({kFile, "--type", "DISP"})["tables"][0]["collector"];
+  const json collector = Shown({kFile, "--type", "DISP"})["tables"][0]["collector"];
   EXPECT_EQ(collector, (json{{"entities", 12}, {"withValues", 12}, {"upToDate", true}, {"archiver", "streamable"}}));
 }
 
 TEST(ResultsCommand, ACollectorWithAHoleIsNotArchivedAndItsExtremesPassOverTheHole)
 {
-  const json table = Values({FileWithAHole(), "--type", "NT"})["tables"][0];
+  const json table = Shown({FileWithAHole(), "--type", "NT"})["tables"][0];
   EXPECT_EQ(table["collector"], (json{{"entities", 4}, {"withValues", 3}, {"upToDate", true}, {"archiver", "none"}}));
   EXPECT_EQ(table["groups"][0]["extremes"][0]["minimum"]["node"], 3);
   EXPECT_EQ(table["groups"][0]["values"][1], (json{2, nullptr}));
@@ -177,7 +177,7 @@ TEST(ResultsCommand, ACollectorWithAHoleIsNotArchivedAndItsExtremesPassOverTheHo
 
 TEST(ResultsCommand, WhatWasCollectedIsDeletedOneByOneOrAtOnce)
 {
-  EXPECT_EQ(Values({kFile, "--type", "DISP", "--version", "all", "--delete"})["deleted"],
+  EXPECT_EQ(Shown({kFile, "--type", "DISP", "--version", "all", "--delete"})["deleted"],
             (json{{"operation", "DeleteCharacCollector"}, {"deleted", 2}, {"left", 0}}));
   EXPECT_EQ(Asked("results", {kFile, "--delete"}, 0)["deleted"],
             (json{{"operation", "DeleteAll"}, {"deleted", 8}, {"left", 0}}));
@@ -243,10 +243,59 @@ TEST(ResultsCommand, OptionsThatMakeNoSenseAreWrongUsage)
   EXPECT_EQ(RunInProcess({"results", kFile, "--csv", "--json"}).code, 2);
 }
 
+TEST(ResultsCommand, AQuantityThatStandsTwiceInAStateCountsOnce)
+{
+  using namespace frdtext;
+  const std::string head = ResultsHead(1, " 1.000000000", 4, 0);
+  const std::string file = voxtest::TemporaryFile("twice.frd", Mesh() + Block("DISP", {"D1"}, head) +
+                                                                   Block("DISP", {"D1", "D2"}, head) + kFileEnd);
+  const json type = Listing(file)["types"][0];
+  EXPECT_THAT(VersionsOf(type), ElementsAre("1"));
+  EXPECT_EQ(type["components"], json{"D1"});
+}
+
+TEST(ResultsCommand, ANodeWithoutAPlaceIsNoEntityOfTheCollector)
+{
+  using namespace frdtext;
+  const std::string file =
+      voxtest::TemporaryFile("stray.frd", Mesh() + ResultsHead(1, " 1.000000000", 2, 0) + Names("NDTEMP", {"T"}) +
+                                              Row(9, {5.}) + Row(2, {7.}) + kBlockEnd + kFileEnd);
+  const json table = Shown({file, "--type", "NT"})["tables"][0];
+  EXPECT_EQ(table["collector"]["entities"], 1);
+  EXPECT_EQ(table["groups"][0]["values"], json::parse("[[2, 7]]"));
+}
+
+TEST(ResultsCommand, NodesInAnyOrderAreShownAscending)
+{
+  using namespace frdtext;
+  const std::string file =
+      voxtest::TemporaryFile("order.frd", Mesh() + ResultsHead(1, " 1.000000000", 3, 0) + Names("NDTEMP", {"T"}) +
+                                              Row(4, {5.}) + Row(1, {7.}) + Row(2, {6.}) + kBlockEnd + kFileEnd);
+  EXPECT_EQ(Shown({file, "--type", "NT"})["tables"][0]["groups"][0]["values"], json::parse("[[1, 7], [2, 6], [4, 5]]"));
+}
+
+TEST(ResultsCommand, SidesOfShellsAreAGroupThatFails)
+{
+  using namespace frdtext;
+  const std::string mesh = kHead + NodesHead(3) + Row(1, {0, 0, 0}) + Row(2, {1, 0, 0}) + Row(3, {0, 1, 0}) +
+                           kBlockEnd + ElementsHead(1) +
+                           " -1         1    7    0    1\n -2         1         2         3\n" + kBlockEnd;
+  const std::string file =
+      voxtest::TemporaryFile("shell.frd", mesh + ResultsHead(1, " 1.000000000", 3, 0) + Names("NDTEMP", {"T"}) +
+                                              Row(1, {5.}) + Row(2, {7.}) + Row(3, {6.}) + kBlockEnd + kFileEnd);
+  voxtest::TemporaryFile("shell.inp", "*NODE\n1, 0., 0.\n2, 1., 0.\n3, 0., 1.\n*ELEMENT, TYPE=S3, ELSET=E\n1, 1, 2, 3\n"
+                                      "*SURFACE, NAME=TOP\nE, SPOS\n*SURFACE, NAME=RIM\nE, S3\n");
+  const json groups = Shown({file, "--type", "NT", "--group", "*"}, 1)["tables"][0]["groups"];
+  ASSERT_EQ(groups.size(), 3u);
+  EXPECT_EQ(groups[0]["values"].size(), 3u);
+  for (const int side : {1, 2})
+    EXPECT_THAT(groups[side]["failure"].get<std::string>(), HasSubstr("ask for a group of nodes or elements"));
+}
+
 TEST(ResultsCommand, ACollectorThatCannotBeFilledIsATableWithItsReason)
 {
   voxhost::Faults::FailOperation("VOXAnalysisCharacCollector::SetValues", 1, false);
-  const json table = Values({kFile, "--type", "DISP"}, 1)["tables"][0];
+  const json table = Shown({kFile, "--type", "DISP"}, 1)["tables"][0];
   voxhost::Faults::Disarm();
   EXPECT_THAT(table["failure"].get<std::string>(), HasSubstr("GetCharacCollector failed"));
 }
