@@ -322,11 +322,8 @@ TEST_F(VOXECharacCollectorArchiving, ANewArchiverThatIsRefusedIsLost)
 {
   const VOXAnalysisCharacCollector& collector = world->NewCollector();
   const auto archivers = Archivers();
-  {
-    const LeaksAllowed lost;
-    Faults::FailOperation(kSetArchiver, 1, false);
-    EXPECT_EQ(world->Assign(collector), E_FAIL);
-  }
+  Faults::FailOperation(kSetArchiver, 1, false);
+  EXPECT_EQ(world->Assign(collector), E_FAIL);
   EXPECT_EQ(AllReported(), (std::vector<Reported>{{VOXSamErrorPropagated, "", kCharac}}));
   EXPECT_EQ(Archivers(), archivers + 1);
   EXPECT_EQ(ArchiverOf(collector), nullptr);

@@ -145,7 +145,6 @@ protected:
   void Fail(const Way& iWay)
   {
     CharacWorld one;
-    const LeaksAllowed lost; // the archiver that a collector refuses
     const auto archivers = Archivers();
     Faults::FailOperation(iWay.call, iWay.nth, false);
     EXPECT_EQ(iWay.operation(one), E_FAIL) << iWay.call;

@@ -279,12 +279,7 @@ TEST(VOXECharacCollectorTorture, AssigningANewArchiverSurvivesEveryFailure)
             const VOXAnalysisCharacCollector& collector = world.NewCollector();
             const auto before = Ledger::Read().archivers;
             VOXAnalysisExplicitModel::DisplayErrors(1);
-            ioRun.Call(
-                [&]
-                {
-                  const LeaksAllowed lost;
-                  return world.Adaptor().AssignArchiverToCollector(&collector, CollectorArchiveOnDemand);
-                });
+            ioRun.Call([&] { return world.Adaptor().AssignArchiverToCollector(&collector, CollectorArchiveOnDemand); });
             EXPECT_EQ(VOXAnalysisExplicitModel::DisplayErrors(0), 1);
             const bool isRefused = ioRun.Failed() && Faults::LastFailed() == "VOXAnalysisCharacCollector::SetArchiver";
             const bool isAssigned = CharacArea::ArchiverOf(collector) != nullptr;

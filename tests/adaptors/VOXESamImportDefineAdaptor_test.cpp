@@ -87,7 +87,6 @@ TEST(VOXESamImportDefineAdaptor, ConvertsFirstAndBuildsTheArrayThen)
 TEST(VOXESamImportDefineAdaptor, AnswersOkEvenWhenTheHostFails)
 {
   AdaptorBench<ImportDefine> import;
-  const LeaksAllowed theValueIsKept;
   Torture("GetValues")
       .MayAnswer({S_OK})
       .ReportsNothing()
