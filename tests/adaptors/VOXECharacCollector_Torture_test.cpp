@@ -13,7 +13,6 @@ using voxhost::Ledger;
 namespace
 {
 
-constexpr char kNoPlace[] = "oPhysicalTypeIndex == -1 || oVersionIndex == -1 || oPositionIndex == -1";
 constexpr char kNoCollector[] = "(aVOXICharacCollector = GetImpl()) == NULL_var";
 constexpr char kNoSpecObject[] = "(aSpecObject = GetImpl()) == NULL_var";
 

@@ -15,7 +15,6 @@ constexpr char kQuery[] = "VOXBaseUnknown::QueryInterface";
 constexpr char kCreateList[] = "VOXAnalysisExplicitListUsr::CreateList";
 constexpr char kDelete[] = "VOXAnalysisExplicitListUsr::Delete";
 constexpr char kChildren[] = "VOXAnalysisExplicitParent::GetChildrenList";
-constexpr char kGetParent[] = "VOXISamExplicit::GetExplicitParent";
 
 const Reported kPropagated{VOXSamErrorPropagated, "", kExpressions};
 
