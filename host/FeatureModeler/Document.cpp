@@ -189,7 +189,7 @@ void Document::Remove(Feature& iFeature)
 
 void Document::EmptyReferencesTo(Feature& iFeature)
 {
-  for (const Feature::Referrer& referrer : iFeature.Referrers())
+  for (const Referrer& referrer : iFeature.Referrers())
     referrer.feature->TakeOut(referrer.attribute, iFeature);
   iFeature._Referrers.reset();
 }

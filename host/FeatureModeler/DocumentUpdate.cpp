@@ -26,7 +26,7 @@ void Document::PutOutOfDate(Feature& iFeature)
     if (feature->_Father != nullptr)
       stack.push_back(feature->_Father);
     if (feature->_Referrers != nullptr)
-      feature->_Referrers->Visit([&stack](Feature& referrer, int, int) { stack.push_back(&referrer); });
+      feature->_Referrers->Visit([&stack](const Referrer& referrer) { stack.push_back(referrer.feature); });
   }
 }
 

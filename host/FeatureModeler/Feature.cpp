@@ -64,20 +64,14 @@ const Attribute* Feature::Declared(int iAttribute) const
   return &_Type->Attributes()[static_cast<std::size_t>(iAttribute)];
 }
 
-std::vector<Feature::Referrer> Feature::Referrers() const
+std::vector<Referrer> Feature::Referrers() const
 {
   std::vector<Referrer> referrers;
   if (_Referrers != nullptr)
-    _Referrers->Visit(
-        [&](Feature& feature, int attribute, int count) {
-          referrers.push_back({&feature, attribute, count});
-        });
+    _Referrers->Visit([&](const Referrer& referrer) { referrers.push_back(referrer); });
   std::sort(referrers.begin(), referrers.end(),
             [](const Referrer& left, const Referrer& right)
-            {
-              return std::pair(left.feature->Identifier(), left.attribute) <
-                     std::pair(right.feature->Identifier(), right.attribute);
-            });
+            { return std::pair(left.identifier, left.attribute) < std::pair(right.identifier, right.attribute); });
   return referrers;
 }
 

@@ -3,6 +3,7 @@
 
 #include "FeatureModeler/VOXISpecObject.h"
 #include "host/ComponentRuntime/Component.h"
+#include "host/FeatureModeler/ReferrerSet.h"
 #include "host/FeatureModeler/TypeCatalogue.h"
 
 #include <span>
@@ -15,7 +16,6 @@ namespace voxhost
 
 class Container;
 class Document;
-class ReferrerSet;
 
 //! Implementation object of every feature. It carries VOXISpecObject itself; its other faces are extension objects that
 //! are made when they are first asked for.
@@ -99,13 +99,8 @@ public:
   //! Whether the value is the feature's own.
   bool IsLocal(int iAttribute) const { return FindLocal(iAttribute) != nullptr; }
 
-  //! Features that refer to this one, each attribute once; its father's attribute is not among them.
-  struct Referrer
-  {
-    Feature* feature;
-    int attribute;
-    int count; //!< how often: a list may hold a feature more than once
-  };
+  //! What refers to this feature, each attribute once, by the identifiers of the features; its father's attribute is not
+  //! among them.
   std::vector<Referrer> Referrers() const;
 
   std::int32_t TimeStamp() const { return _TimeStamp; }

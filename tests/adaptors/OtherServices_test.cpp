@@ -65,6 +65,12 @@ public:
   using Pointing = std::pair<VOXBaseUnknown*, VOXBaseUnknown*>; // access and key, either may be null; borrowed
   static inline std::vector<std::optional<Pointing>> pointings; // none: an empty entry
 
+  VOXBaseUnknown* GetImpl(int iMode = 0) const override
+  {
+    if (iMode != 0)
+      CallLog::Note("implementation with mode " + std::to_string(iMode));
+    return ScriptedSpecObject::GetImpl(iMode);
+  }
   HRESULT RemoveComponent(const VOXBaseUnknown_var& iComponent, int iMode) override
   {
     const bool fails = CallLog::Enter("VOXISpecObject::RemoveComponent", Labels::Of(iComponent), iMode);
@@ -300,6 +306,7 @@ TEST_F(OtherServices, AnExplicitTagThatIsNoIntegerIsCopiedAndNotReset)
 TEST_F(OtherServices, ReferencesAreWrittenByTheUpgradeServiceWithoutAReset)
 {
   Both("Targets", VOXSpecList, VOXSpecReference).lists["Targets"] = {Object("X"), nullptr, Object("Y")};
+  LabelledAccess::ScriptOf(fresh).lists["new Targets"] = {Object("D")};
   EXPECT_EQ(
       Copied(),
       With("Targets", {"VOXISpecAttrAccess::GetListSize(Targets)", "VOXISpecAttrAccess::GetListSize(new Targets)",

@@ -221,3 +221,13 @@ TEST_F(LayeredUpgrade, WithoutTheKeyOfValuesNothingIsAddedButTheKindsAreCounted)
   EXPECT_EQ(UpgradeMessages::Text(), "");
   EXPECT_EQ(component.Integer("ValuesDim"), 3);
 }
+
+TEST_F(LayeredUpgrade, WithoutDimensionsNoCopyIsMadeButTheKindsAreCounted)
+{
+  Make(1, 2, {"A"});
+  Faults::FailOperation("VOXISamBasicComponent::GetDimensions", 1, true);
+  EXPECT_EQ(Upgrade(), S_OK);
+  Faults::Disarm();
+  EXPECT_EQ(Values(), Names{"A"});
+  EXPECT_EQ(component.Integer("ValuesDim"), 3);
+}

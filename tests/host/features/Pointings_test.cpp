@@ -85,4 +85,38 @@ TEST_F(FeaturePointings, OfAHundredThousandAttributesAreKnownWithoutLookingThrou
   document->Remove(nut);
 }
 
+TEST_F(FeaturePointings, AreKnownWhileManyComeAndGoInAnyOrder)
+{
+  constexpr std::size_t kUsers = 300;
+  voxhost::Feature& nut = New("Bolt", "Nut");
+  voxhost::Feature& other = New("Bolt", "Other");
+  std::vector<voxhost::Feature*> users;
+  for (std::size_t i = 0; i < kUsers; ++i)
+    users.push_back(&New("Bolt", "User"));
+  std::vector<bool> refers(kUsers, false);
+  std::uint32_t random = 1;
+  for (int step = 0; step < 6000; ++step)
+  {
+    random = random * 1664525u + 1013904223u;
+    const std::size_t user = (random >> 8) % (step % 2000 < 1200 ? kUsers : kUsers / 20); // at times only a few
+    refers[user] = (random >> 24) % 3 != 0 && step < 5000;
+    users[user]->Add("Nut", refers[user] ? nut : other);
+  }
+  std::vector<const voxhost::Feature*> expected;
+  for (std::size_t i = 0; i < kUsers; ++i)
+    if (refers[i])
+      expected.push_back(users[i]);
+  std::vector<const voxhost::Feature*> known;
+  for (const voxhost::Referrer& referrer : nut.Referrers())
+  {
+    known.push_back(referrer.feature);
+    EXPECT_EQ(referrer.count, 1);
+  }
+  EXPECT_EQ(known, expected);
+  for (voxhost::Feature* const user : users)
+    user->Add("Nut", other);
+  EXPECT_TRUE(nut.Referrers().empty());
+  EXPECT_EQ(other.Referrers().size(), kUsers);
+}
+
 } // namespace
