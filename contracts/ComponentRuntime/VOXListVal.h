@@ -23,7 +23,7 @@ public:
 
   void Append(const Value& iValue);
 
-  //! Takes one element out; those behind it move up.
+  //! Takes one element out; those behind it move up. At either end this costs the same for any number of elements.
   void RemovePosition(int iPosition);
 
   //! Takes all elements out.
@@ -37,6 +37,7 @@ private:
   void Reserve(int iCapacity);
 
   Value* _Values;
+  int _First; // place of the first element among the values, from 0
   int _Size;
   int _Capacity;
 };

@@ -3,6 +3,8 @@
 
 #include "ComponentRuntime/VOXHostExport.h"
 
+#include <vector>
+
 //! List of integers, counted from 1, a value.
 class VOX_HOST_API VOXRawCollint
 {
@@ -33,7 +35,14 @@ public:
   void RemoveAll(int iMode);
 
 private:
+  void Settle() const;
+
+  // Looking changes how the answer is kept, never the answer.
   int* _Values;
-  int _Size;
+  mutable int _Size;
   int _Capacity;
+  mutable int _Absent;                 // an integer that was looked for in vain
+  mutable int _AbsentUpTo;             // among the elements up to this position
+  bool _IsLent;                        // somebody may write an element behind the list's back
+  mutable std::vector<int>* _Unwanted; // removed, though still among the values; null for none
 };

@@ -27,6 +27,7 @@ bool SameValue(const Value& iLeft, const Value& iRight)
 
 template <class Value>
 VOXListVal<Value>::VOXListVal() : _Values(nullptr),
+                                  _First(0),
                                   _Size(0),
                                   _Capacity(0)
 {
@@ -37,7 +38,7 @@ VOXListVal<Value>::VOXListVal(const VOXListVal& iOther) : VOXListVal()
 {
   Reserve(iOther._Size);
   for (int i = 0; i < iOther._Size; ++i)
-    _Values[_Size++] = iOther._Values[i];
+    _Values[_Size++] = iOther._Values[iOther._First + i];
 }
 
 template <class Value>
@@ -48,7 +49,7 @@ VOXListVal<Value>& VOXListVal<Value>::operator=(const VOXListVal& iOther)
   RemoveAll();
   Reserve(iOther._Size);
   for (int i = 0; i < iOther._Size; ++i)
-    _Values[_Size++] = iOther._Values[i];
+    _Values[_Size++] = iOther._Values[iOther._First + i];
   return *this;
 }
 
@@ -70,7 +71,7 @@ Value& VOXListVal<Value>::operator[](int iPosition)
   if (iPosition < 1 || iPosition > _Size)
     VOXFatalError("AssertionFailed:1 <= iPosition && iPosition <= Size()", nullptr, nullptr, nullptr, __FILE__,
                   __LINE__);
-  return _Values[iPosition - 1];
+  return _Values[_First + iPosition - 1];
 }
 
 template <class Value>
@@ -83,32 +84,41 @@ template <class Value>
 void VOXListVal<Value>::Append(const Value& iValue)
 {
   const Value kept(iValue); // the value may be an element of this very list
-  if (_Size == _Capacity)
-    Reserve(_Capacity == 0 ? 4 : 2 * _Capacity);
-  _Values[_Size++] = kept;
+  if (_First + _Size == _Capacity)
+    Reserve(_Size == 0 ? 4 : 2 * _Size);
+  _Values[_First + _Size++] = kept;
 }
 
 template <class Value>
 void VOXListVal<Value>::RemovePosition(int iPosition)
 {
   (*this)[iPosition] = Value();
-  for (int i = iPosition; i < _Size; ++i)
-    _Values[i - 1] = static_cast<Value&&>(_Values[i]);
-  _Values[--_Size] = Value();
+  if (iPosition <= _Size / 2)
+  {
+    for (int place = _First + iPosition - 1; place > _First; --place)
+      _Values[place] = static_cast<Value&&>(_Values[place - 1]);
+    _Values[_First++] = Value();
+    --_Size;
+    return;
+  }
+  for (int place = _First + iPosition; place < _First + _Size; ++place)
+    _Values[place - 1] = static_cast<Value&&>(_Values[place]);
+  _Values[_First + --_Size] = Value();
 }
 
 template <class Value>
 void VOXListVal<Value>::RemoveAll()
 {
   while (_Size > 0)
-    _Values[--_Size] = Value();
+    _Values[_First + --_Size] = Value();
+  _First = 0;
 }
 
 template <class Value>
 int VOXListVal<Value>::Locate(const Value& iValue, int iFrom) const
 {
   for (int i = iFrom < 1 ? 1 : iFrom; i <= _Size; ++i)
-    if (voxhost::SameValue(_Values[i - 1], iValue))
+    if (voxhost::SameValue(_Values[_First + i - 1], iValue))
       return i;
   return 0;
 }
@@ -116,12 +126,13 @@ int VOXListVal<Value>::Locate(const Value& iValue, int iFrom) const
 template <class Value>
 void VOXListVal<Value>::Reserve(int iCapacity)
 {
-  if (iCapacity <= _Capacity)
+  if (_First + iCapacity <= _Capacity)
     return;
   Value* const values = new Value[static_cast<std::size_t>(iCapacity)];
   for (int i = 0; i < _Size; ++i)
-    values[i] = static_cast<Value&&>(_Values[i]);
+    values[i] = static_cast<Value&&>(_Values[_First + i]);
   delete[] _Values;
   _Values = values;
+  _First = 0;
   _Capacity = iCapacity;
 }

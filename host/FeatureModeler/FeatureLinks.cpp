@@ -131,7 +131,12 @@ void Feature::TakeOut(int iAttribute, const Feature& iFeature)
   if (auto* const single = std::get_if<Feature*>(value))
     *single = *single == &iFeature ? nullptr : *single;
   else if (auto* const list = std::get_if<StoredList<Feature*>>(value); list != nullptr && *list != nullptr)
-    std::erase(**list, &iFeature);
+  {
+    if (!Declared(iAttribute)->HoldsComponents())
+      std::erase(**list, &iFeature);
+    else if (const auto held = std::find((*list)->begin(), (*list)->end(), &iFeature); held != (*list)->end())
+      (*list)->erase(held); // once at most
+  }
   Changed();
 }
 

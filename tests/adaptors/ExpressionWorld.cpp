@@ -43,9 +43,6 @@ std::ptrdiff_t OffsetOf(const Adaptor& iAdaptor, const Member& iMember)
   return reinterpret_cast<const char*>(&iMember) - reinterpret_cast<const char*>(&iAdaptor);
 }
 
-const char* g_operation = nullptr;
-std::function<void()> g_what; // once
-
 } // namespace
 
 namespace voxtest
@@ -150,27 +147,6 @@ std::string ExpressionWorld::NameOf(const VOXAnalysisExplicitData& iObject)
 {
   const voxhost::Record* const record = _Model.RecordOf(iObject);
   return record == nullptr ? "(gone)" : record->name;
-}
-
-WhenCalled::WhenCalled(const char* iOperation, std::function<void()> iWhat)
-{
-  g_operation = iOperation;
-  g_what = std::move(iWhat);
-  Faults::Listen(
-      [](const char* iPassed)
-      {
-        if (!g_what || std::string_view(iPassed) != g_operation)
-          return;
-        const std::function<void()> what = std::exchange(g_what, {});
-        what();
-      });
-}
-
-WhenCalled::~WhenCalled()
-{
-  EXPECT_FALSE(g_what) << g_operation << " was never called";
-  g_what = {};
-  Faults::Listen(nullptr);
 }
 
 ExpressionTest::ExpressionTest()

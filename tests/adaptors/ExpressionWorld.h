@@ -10,6 +10,7 @@
 #include "tests/adaptors/Reported.h"
 #include "tests/support/Bench.h"
 #include "tests/support/ScriptedInterfaces.h"
+#include "tests/support/WhenCalled.h"
 
 #include <functional>
 #include <optional>
@@ -113,17 +114,6 @@ private:
   Bench _Bench;
   VOXBaseUnknown* _Feature;
   VOXIExpressionCollector_var _Collector;
-};
-
-//! Something that happens, once, just when an operation of the host passes its fault point. One at a time, and none while
-//! calls are recorded.
-class WhenCalled
-{
-public:
-  WhenCalled(const char* iOperation, std::function<void()> iWhat);
-  ~WhenCalled();
-  WhenCalled(const WhenCalled&) = delete;
-  WhenCalled& operator=(const WhenCalled&) = delete;
 };
 
 //! One world; errors and ledger as they were when the test is over.

@@ -230,6 +230,15 @@ TEST_F(VOXESamConnectionDesignDesigners, SupportsReplaceTheCallersAfterTheyWereL
   EXPECT_EQ(Supports2(), "C");
 }
 
+TEST_F(VOXESamConnectionDesignDesigners, TheCallersSupportsAreReplacedBeforeTheDesignersAreAskedFor)
+{
+  Fill();
+  std::string callers;
+  ConnectionWorld::FilterOf(world->designer1).whenAsked = [&] { callers = Supports1(); };
+  EXPECT_EQ(world->GetDesigners(*sides), S_OK);
+  EXPECT_EQ(callers, "A B");
+}
+
 TEST_F(VOXESamConnectionDesignDesigners, TheyAreListedByTheseCalls)
 {
   const VOXISamConnectionDesign_var spDesign = world->Design();

@@ -264,6 +264,13 @@ TEST_F(VOXESamEnumManagerSelection, AStringThatBeginsWithADotIsNeverShortened)
                                         "CreateSubComponent(, empty, null)", "CreateSubComponent(Mass, m, null)"}));
 }
 
+TEST_F(VOXESamEnumManagerSelection, AStringThatBeginsWithADotIsNotShortenedAtALaterOneEither)
+{
+  world->Add(".Mass.2");
+  world->Derived().needed = {{".Mass", "m"}};
+  EXPECT_EQ(world->Outcome(1), (Outcome{"RemoveSubComponent(.Mass.2)", "CreateSubComponent(.Mass, m, null)"}));
+}
+
 TEST_F(VOXESamEnumManagerSelection, AStringWithoutDotThatIsNotWantedIsRemoved)
 {
   world->Add("Masses");

@@ -5,6 +5,7 @@
 #include "tests/adaptors/Reported.h"
 #include "tests/support/CallLog.h"
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <set>
@@ -307,6 +308,44 @@ TEST_F(VOXSamToolsForExplicitationAxisFailures, TheReportComesOnceTheGuardIsPass
   EXPECT_EQ(onSet, 3) << "the caller's, the feature's handle and that of the explicit face";
   EXPECT_EQ(onFactory, 1);
   EXPECT_EQ(onFather, 0);
+}
+
+namespace
+{
+
+// Notes queries for attributes that go to the feature's own face, and how deep errors are when it is released.
+class NotedFeature : public ScriptedSpecObject
+{
+public:
+  using ScriptedSpecObject::QueryInterface;
+  HRESULT QueryInterface(const IID& iInterface, void** oFace) override
+  {
+    if (iInterface == VOXISpecAttrAccess::ClassId())
+      CallLog::Note("the feature is asked for its attributes");
+    return ScriptedSpecObject::QueryInterface(iInterface, oFace);
+  }
+  unsigned long Release() override
+  {
+    leastDepth = std::min(leastDepth, ErrorDepthHandler::_SamDepth_);
+    return ScriptedSpecObject::Release();
+  }
+  static inline int leastDepth = 0;
+};
+
+} // namespace
+
+TEST_F(VOXSamToolsForExplicitationAxisFailures, FeaturesAreAskedForTheirAttributesAndAllIsReleasedUnderTheErrorHandler)
+{
+  const VOXISamAnalysisSet_var spSet = OtherSet<NotedFeature, ScriptedExplicit, ScriptedAttrAccess>();
+  AxisSetWorld::AccessOf(spSet) = AxisSetWorld::AccessOf(world->set);
+  VOXBaseUnknown* const made = world->MoreComponents().Component<NotedFeature, ScriptedExplicit, ScriptedAttrAccess>();
+  AxisSetWorld::AccessOf(made) = AxisSetWorld::AccessOf(world->made);
+  world->Factory().entity = made;
+  const CallLog log;
+  NotedFeature::leastDepth = 99;
+  EXPECT_EQ(VOXSamToolsForExplicitation::LogImplicitAxis(spSet, world->given), S_OK);
+  EXPECT_EQ(NotedFeature::leastDepth, 1);
+  EXPECT_EQ(log.Count("the feature is asked for its attributes"), 2) << "the set and the entity";
 }
 
 TEST_F(VOXSamToolsForExplicitationAxisFailures, OneFailureAfterTheOtherIsAnOrdinaryOne)

@@ -3,6 +3,7 @@
 #include "tests/adaptors/AxisSetWorld.h"
 #include "tests/adaptors/Reported.h"
 #include "tests/support/CallLog.h"
+#include "tests/support/WhenCalled.h"
 
 #include <optional>
 
@@ -240,12 +241,19 @@ TEST_F(VOXSamToolsForExplicitationAxisLog, ReferencesOfTheWritesAreGivenBackAsSo
 
 TEST_F(VOXSamToolsForExplicitationAxisLog, TheFatherIsGivenBackBeforeTheNewEntityIsBroughtUpToDate)
 {
-  const VOXISamAnalysisSet_var spSet(world->set);
   long onFather = -1;
-  world->SetScript().whenListed = [&](VOXListValVOXISpecObject_var&) { onFather = Bench::References(world->father); };
-  EXPECT_EQ(VOXSamToolsForExplicitation::LogImplicitAxis(spSet, world->given), S_OK);
-  EXPECT_EQ(onFather, 0) << "it is not asked for before the factory is there";
-  EXPECT_EQ(Bench::References(world->father), 0);
+  const WhenCalled updated("VOXISpecObject::Update", [&] { onFather = Bench::References(world->father); });
+  EXPECT_EQ(world->Log(), S_OK);
+  EXPECT_EQ(onFather, 0);
+}
+
+TEST_F(VOXSamToolsForExplicitationAxisLog, TheCreationsReferenceIsStillHeldWhenTheEntityIsPutAmongTheSons)
+{
+  long onEntity = -1;
+  const WhenCalled put("VOXSpecPubServices::UpgradeSpecObjectAttribute",
+                       [&] { onEntity = Bench::References(world->made); });
+  EXPECT_EQ(world->Log(), S_OK);
+  EXPECT_EQ(onEntity, 2) << "the creation's and that of the log's handle";
 }
 
 TEST_F(VOXSamToolsForExplicitationAxisLog, TheCreationsReferenceIsGivenBack)

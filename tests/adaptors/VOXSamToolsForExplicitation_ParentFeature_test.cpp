@@ -305,6 +305,16 @@ TEST_F(VOXSamToolsForExplicitationParentFeature, AMemberIsQueriedThroughWhatWasL
   found->Release();
 }
 
+TEST_F(VOXSamToolsForExplicitationParentFeature, TheFeatureIsReachedThroughTheExplicitFaceWhateverFaceIsListed)
+{
+  VOXBaseUnknown* const maker = world->Add<QueriedExplicit>({TagOf(world->group)});
+  world->Told().members = {maker};
+  const CallLog log;
+  VOXISpecObject* const found = world->LookUp(world->group);
+  EXPECT_EQ(log.Only({"query", "VOXISamExplicit::"}), (Calls{"VOXISamExplicit::ListTags", "query VOXISpecObject"}));
+  found->Release();
+}
+
 TEST_F(VOXSamToolsForExplicitationParentFeature, AMemberThatDoesNotMatchIsNotAskedForItsFeature)
 {
   world->Add<QueriedExplicit>({TagOf(world->mesh)});

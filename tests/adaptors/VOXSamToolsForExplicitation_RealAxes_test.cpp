@@ -81,6 +81,7 @@ TEST(VOXSamToolsForExplicitationRealAxes, ASetOfADocumentGetsItsEntityAtTheEndOf
   RealAxes axes;
   EXPECT_EQ(axes.Log(axes.given), S_OK);
   ASSERT_EQ(axes.Entities().size(), 1u);
+  ASSERT_EQ(axes.set->Features("SonsList").size(), 2u) << "behind the feature that was there";
   EXPECT_EQ(axes.set->Features("SonsList").back(), axes.Entities()[0]);
   EXPECT_EQ(axes.Entities()[0]->Type().Name(), "SAMImplicitAxes");
   EXPECT_EQ(axes.Recorded(), (Tags{TagOf(axes.implicit), TagOf(axes.frame), TagOf(axes.given)}));

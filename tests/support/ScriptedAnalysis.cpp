@@ -106,6 +106,8 @@ HRESULT ScriptedMeshPartFilter::ListDesigners(VOXListValVOXISpecObject_var*& oDe
 {
   if (CallLog::Enter("VOXISamMeshPartFilter::ListDesigners", oDesigners == nullptr ? "null" : "not null"))
     return E_FAIL;
+  if (Told().whenAsked)
+    Told().whenAsked();
   oDesigners = Told().designers ? new VOXListValVOXISpecObject_var : nullptr;
   for (VOXBaseUnknown* const designer : Told().designers.value_or(Objects()))
     oDesigners->Append(VOXISpecObject_var(designer));

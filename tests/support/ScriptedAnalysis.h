@@ -121,6 +121,7 @@ struct MeshPartFilterScript
 {
   std::optional<Objects> designers; //!< none: the caller's pointer is set to null
   HRESULT result = S_OK;
+  std::function<void()> whenAsked;
 };
 
 class ScriptedMeshPartFilter : public Scripted<VOXISamMeshPartFilter, MeshPartFilterScript>

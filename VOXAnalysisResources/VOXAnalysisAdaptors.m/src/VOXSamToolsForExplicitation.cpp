@@ -283,12 +283,13 @@ VOXISpecObject* VOXSamToolsForExplicitation::GetParentFeature(const VOXAnalysisE
   const int nbMembers = iContainer->ListMembers(VOXISamExplicit::ClassName(), members);
   for (int i = 0; i < nbMembers; ++i)
   {
-    const VOXBaseUnknown_var spMember(members[i]);
+    VOXBaseUnknown*& piMember = members[i];
+    const VOXBaseUnknown_var spMember(piMember);
     if (!!spMember && pFeature == nullptr)
       pFeature = FeatureWithTag(spMember, tag, tags);
-    if (members[i] != nullptr)
-      members[i]->Release(); // the listing's reference, beside the handle's
-    members[i] = nullptr;
+    if (piMember != nullptr)
+      piMember->Release(); // the listing's reference, beside the handle's
+    piMember = nullptr;
   }
   return pFeature;
 }

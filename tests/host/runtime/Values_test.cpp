@@ -5,6 +5,8 @@
 #include "tests/support/Torture.h"
 
 #include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 namespace
 {
@@ -82,6 +84,99 @@ TEST(RawCollint, RemovesEveryOccurrenceOfAnotherListsIntegers)
   EXPECT_EQ(list[20], 49);
 }
 
+TEST(RawCollint, FindsWhatIsAddedAfterASearchInVain)
+{
+  VOXRawCollint list;
+  list.Append(1);
+  EXPECT_EQ(list.Locate(5, 1), 0);
+  list.Append(5);
+  list.Append(5);
+  EXPECT_EQ(list.Locate(5, 1), 2);
+  EXPECT_EQ(list.Locate(5, 3), 3);
+  EXPECT_EQ(list.Locate(1, 1), 1);
+}
+
+TEST(RawCollint, FindsWhatIsWrittenAfterASearchInVain)
+{
+  VOXRawCollint list;
+  for (const int value : {1, 2, 3})
+    list.Append(value);
+  EXPECT_EQ(list.Locate(5, 1), 0);
+  int& second = list[2];
+  EXPECT_EQ(list.Locate(5, 1), 0);
+  second = 5;
+  EXPECT_EQ(list.Locate(5, 1), 2);
+}
+
+TEST(RawCollint, FindsWhatAnotherContentBringsAfterASearchInVain)
+{
+  VOXRawCollint list;
+  for (const int value : {1, 2, 3})
+    list.Append(value);
+  EXPECT_EQ(list.Locate(5, 1), 0);
+  VOXRawCollint other;
+  other.Append(5);
+  list = other;
+  EXPECT_EQ(list.Locate(5, 1), 1);
+  EXPECT_EQ(list.Locate(6, 1), 0);
+  list.RemoveAll(0);
+  list.Append(6);
+  EXPECT_EQ(list.Locate(6, 1), 1);
+}
+
+TEST(RawCollint, FindsWhatMovesUpAfterASearchInVain)
+{
+  VOXRawCollint list;
+  for (const int value : {1, 0, 2})
+    list.Append(value);
+  EXPECT_EQ(list.Locate(5, 1), 0);
+  list.Append(5);
+  list.RemoveNulls();
+  EXPECT_EQ(list.Locate(5, 1), 3);
+  EXPECT_EQ(list.Locate(6, 1), 0);
+  list.Append(6);
+  VOXRawCollint unwanted;
+  unwanted.Append(1);
+  unwanted.Append(2);
+  list.Remove(unwanted);
+  EXPECT_EQ(list.Locate(6, 1), 2);
+}
+
+TEST(RawCollint, AddsAgainWhatWasRemoved)
+{
+  VOXRawCollint list;
+  VOXRawCollint unwanted;
+  for (const int value : {-2000000000, 3, 2000000000, 4})
+    list.Append(value);
+  for (const int value : {2000000000, -2000000000})
+    unwanted.Append(value);
+  list.Remove(unwanted);
+  unwanted.RemoveAll(1);
+  unwanted.Append(4);
+  list.Remove(unwanted);
+  list.Append(4);
+  const VOXRawCollint copy(list);
+  ASSERT_EQ(copy.Size(), 2);
+  EXPECT_EQ(copy[1], 3);
+  EXPECT_EQ(copy[2], 4);
+}
+
+TEST(RawCollint, IsEmptyWithoutItsOwnIntegers)
+{
+  VOXRawCollint list;
+  list.Append(3);
+  list.Append(4);
+  list.Remove(list);
+  EXPECT_EQ(list.Size(), 0);
+  list.Append(3);
+  list.Remove(VOXRawCollint());
+  EXPECT_EQ(list.Size(), 1);
+  VOXRawCollint other;
+  other.Remove(list);
+  other.Append(3);
+  EXPECT_EQ(other.Locate(3, 1), 1);
+}
+
 TEST(RawCollint, RemovesNullsAndKeepsTheOrder)
 {
   VOXRawCollint list;
@@ -103,6 +198,33 @@ TEST(ValueLists, StopTheProgramAtAnIndexOutsideOfTheList)
   EXPECT_THROW(list[0], voxtest::FatalErrorRaised);
   EXPECT_THROW(list[2], voxtest::FatalErrorRaised);
   EXPECT_THROW(VOXRawCollint()[1], voxtest::FatalErrorRaised);
+}
+
+TEST(ValueLists, LoseElementsAnywhereAndTakeNewOnesAtTheEnd)
+{
+  VOXListValVOXUnicodeString list;
+  std::vector<std::string> expected;
+  for (int i = 0; i < 200; ++i)
+  {
+    const std::string text = std::to_string(i);
+    list.Append(text.c_str());
+    expected.push_back(text);
+    if (i % 3 == 0)
+      continue;
+    const int position = i % 5 == 0 ? list.Size() : i % 7 == 0 ? 1 + list.Size() / 2 : 1 + i % 2;
+    if (position > list.Size())
+      continue;
+    list.RemovePosition(position);
+    expected.erase(expected.begin() + (position - 1));
+  }
+  const VOXListValVOXUnicodeString copy(list);
+  ASSERT_EQ(copy.Size(), static_cast<int>(expected.size()));
+  ASSERT_GT(copy.Size(), 50);
+  for (int i = 1; i <= copy.Size(); ++i)
+  {
+    EXPECT_EQ(copy[i].ConvertToChar(), expected[static_cast<std::size_t>(i - 1)]);
+    EXPECT_EQ(list.Locate(copy[i], 1), i);
+  }
 }
 
 TEST(ValueLists, TakeElementsOutAndMoveTheOthersUp)
