@@ -129,3 +129,19 @@ TEST(ExpressionsCommand, AFeatureThatFailsIsARowWithItsReason)
   EXPECT_THAT(rows[0]["failure"].get<std::string>(), HasSubstr("GetNumberOfExpressions failed: error 1"));
   EXPECT_EQ(written["count"], 2);
 }
+
+TEST(ExpressionsCommand, AnExpressionThatFailsIsARowAndTheNextIsTold)
+{
+  voxbench::NeutralModel records;
+  ASSERT_TRUE(voxbench::ReadInp(kDeck, {}, records).ok);
+  voxbench::LoadedModel model;
+  ASSERT_EQ(model.Build(std::move(records)), "");
+  voxhost::Faults::FailOperation("VOXAnalysisExplicitChild::LinkWithPointer", 1, false);
+  const voxbench::Expressions expressions(model, [](const voxhost::Feature&) { return true; });
+  voxhost::Faults::Disarm();
+
+  ASSERT_EQ(expressions.Rows().size(), 4u);
+  EXPECT_THAT(expressions.Rows()[0].failure, HasSubstr("GetExpression failed"));
+  EXPECT_EQ(expressions.Rows()[1].failure, "");
+  EXPECT_EQ(expressions.Rows()[1].size, 3);
+}

@@ -235,6 +235,17 @@ TEST_F(SolutionResults, AFileThatHasChangedSinceIsNotTakenForTheSame)
   EXPECT_THAT(results.Source().Failure(), testing::HasSubstr("has changed since it was opened"));
 }
 
+TEST_F(SolutionResults, AFileOfTheSameShapeWithOtherNamesIsNotTakenForTheSame)
+{
+  std::ifstream original(file);
+  std::string text(std::istreambuf_iterator<char>(original), {});
+  for (std::size_t at = text.find("DISP "); at != std::string::npos; at = text.find("DISP ", at))
+    text.replace(at, 4, "VELO");
+  files.Write("job.frd", text);
+  const VOXAnalysisCharacCollector* collector = nullptr;
+  EXPECT_EQ(spResults->GetCharacCollector(type, Version(1), "NODE", collector), E_FAIL);
+}
+
 TEST_F(SolutionResults, AFileThatHasGoneIsAFailure)
 {
   std::filesystem::remove(file);
