@@ -469,14 +469,6 @@ TEST_F(OtherServices, TheStartUpGoesBackWholeWhenNoInstanceIsMade)
   EXPECT_EQ(Bench::References(startUp), 0);
 }
 
-TEST_F(OtherServices, AnInstanceWithoutContainerIsNotRerouted)
-{
-  LabelledFeature::ScriptOf(old).container = nullptr;
-  const CallLog log;
-  EXPECT_EQ(Reroute(), nullptr);
-  EXPECT_EQ(log.Without({"VOXBaseUnknown::"}), Calls{"VOXISpecObject::GetContainer"});
-}
-
 TEST_F(OtherServices, WithoutAStartUpNothingIsMade)
 {
   g_services.startUp = nullptr;
