@@ -33,7 +33,10 @@ std::vector<std::string> FirstExampleOn(const voxbench::CommandDescription& iCom
   std::istringstream words(iCommand.examples.front().line);
   std::vector<std::string> arguments;
   for (std::string word; words >> word;)
-    arguments.push_back(word == "bracket.inp" || word == "bracket.frd" ? iFile : word);
+  {
+    const bool isDocument = word == "bracket.voxdoc" && arguments.size() == 2; // and not the one to write
+    arguments.push_back(isDocument || word == "bracket.inp" || word == "bracket.frd" ? iFile : word);
+  }
   arguments.erase(arguments.begin()); // the program itself
   return arguments;
 }

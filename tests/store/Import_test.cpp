@@ -33,7 +33,7 @@ TEST_F(Import, MakesADocumentAndTellsWhatIsInIt)
 {
   const auto run = RunBuiltProgram({"import", deck, "-o", document});
   EXPECT_EQ(run.code, 0) << run.errors;
-  EXPECT_EQ(run.out, document + ": 40 features, 12 nodes, 5 elements.\n");
+  EXPECT_EQ(run.out, document + ": release 3, 44 features, 12 nodes, 5 elements.\n");
   EXPECT_EQ(run.errors, "");
   EXPECT_EQ(FilesBeside(), 1u);
 }
@@ -42,7 +42,7 @@ TEST_F(Import, TellsTheSameAsJson)
 {
   const json output = json::parse(RunInProcess({"import", deck, "-o", document, "--json"}).out);
   EXPECT_EQ(voxtest::Violations(voxtest::SchemaOf("import"), output), std::vector<std::string>{});
-  EXPECT_EQ(output["features"], 40);
+  EXPECT_EQ(output["features"], 44);
   EXPECT_EQ(output["bytes"], std::filesystem::file_size(document));
 }
 

@@ -70,8 +70,11 @@ ModelBuilder::Pair ModelBuilder::MakeEntity(const Pair& iSet, const Plan& iPlan,
                                             std::int32_t iStep)
 {
   const Pair entity = Make(iSet, iPlan);
-  entity.feature->Set("Keyword", iKeyword);
-  entity.feature->Set("Step", iStep);
+  // Restraints of former releases had another name for the one, and another type for the other.
+  if (FAILED(entity.feature->Set("Keyword", iKeyword)))
+    entity.feature->Set("Card", iKeyword);
+  if (FAILED(entity.feature->Set("Step", iStep)))
+    entity.feature->Set("Step", static_cast<double>(iStep));
   return entity;
 }
 
@@ -116,8 +119,10 @@ void ModelBuilder::BuildProperties()
   for (const Section& section : _Records.sections)
   {
     const bool isMass = section.kind == SectionKind::Mass;
-    const Plan plan{isMass ? kMassType : kPropertyType, PhysicalTypeOf(section.kind), NextName(section.card.keyword),
-                    AliasOf(section)};
+    const Plan plan{isMass                   ? kMassType
+                    : section.layers.empty() ? kPropertyType
+                                             : kLayeredShellType,
+                    PhysicalTypeOf(section.kind), NextName(section.card.keyword), AliasOf(section)};
     const Pair entity = MakeEntity(isMass ? masses : properties, plan, section.card.keyword, section.card.step);
     ApplyToUnion targets(_Model.Mesh());
     std::vector<voxhost::Feature*> supports;
@@ -132,6 +137,7 @@ void ModelBuilder::BuildProperties()
     {
       ReferToMaterials(*entity.feature, section);
       ChooseSectionKind(*entity.feature, section);
+      FillPlies(*entity.feature, section);
     }
     Finish(entity, targets, supports);
   }
@@ -140,8 +146,9 @@ void ModelBuilder::BuildProperties()
 void ModelBuilder::BuildRestraints()
 {
   const Pair restraints = MakeSet("RestraintSet", "RESTRAINT_SET", "Restraints");
+  const char* const type = _Document.Types().Find(kRestraintType) != nullptr ? kRestraintType : kFormerRestraintType;
   for (const AppliedCard& card : _Records.restraints)
-    ChooseRestraintKind(BuildApplied(restraints, kRestraintType, "DISPLACEMENT", card), card);
+    ChooseRestraintKind(BuildApplied(restraints, type, "DISPLACEMENT", card), card);
   BuildEquations(restraints);
   BuildMultiPointConstraints(restraints);
 }

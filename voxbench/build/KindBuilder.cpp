@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 namespace voxbench
 {
@@ -90,6 +91,31 @@ void ModelBuilder::ChooseSectionKind(voxhost::Feature& ioProperty, const Section
     further->SetIdentifyingString(kShellThicknessType + ("." + std::to_string(layer + 1)));
     further->Set("Value", OrZero(iSection.layers[layer].thickness));
     kind.Add("SonsList", *further);
+  }
+}
+
+//! Gives a layered shell the values of each layer, from the bottom up: one of each kind that its start-up has.
+void ModelBuilder::FillPlies(voxhost::Feature& ioProperty, const Section& iSection)
+{
+  for (voxhost::Feature* const plies : ioProperty.Features("SonsList"))
+  {
+    if (plies->Type().Name() != kPliesType)
+      continue;
+    const auto ofFirstLayer = plies->Features("Values");
+    const std::vector<voxhost::Feature*> kinds(ofFirstLayer.begin(), ofFirstLayer.end());
+    plies->Set("ValuesDim", static_cast<std::int32_t>(kinds.size()));
+    plies->Set("Layers", static_cast<std::int32_t>(iSection.layers.size()));
+    for (std::size_t layer = 0; layer < iSection.layers.size(); ++layer)
+      for (voxhost::Feature* const kind : kinds)
+      {
+        voxhost::Feature* const value = layer == 0 ? kind : _Document.New(*kind->StartUp(), kind->Name());
+        if (value == nullptr)
+          throw std::bad_alloc();
+        if (layer > 0)
+          plies->Add("Values", *value);
+        if (value->Type().Name() == kPlyThicknessType)
+          value->Set("Value", OrZero(iSection.layers[layer].thickness));
+      }
   }
 }
 

@@ -28,11 +28,13 @@ std::vector<voxhost::Feature*> HeldBy(const voxhost::Feature& iFeature, bool iBa
 LoadedModel::LoadedModel() = default;
 LoadedModel::~LoadedModel() = default;
 
-std::string LoadedModel::Build(NeutralModel ioRecords, std::shared_ptr<const voxhost::ExplicitRules> iRules)
+std::string LoadedModel::Build(NeutralModel ioRecords, std::shared_ptr<const voxhost::ExplicitRules> iRules,
+                               int iRelease)
 {
+  _Release = iRelease;
   _Records = std::move(ioRecords);
   _Explicit = std::make_unique<voxhost::ExplicitModel>(std::move(iRules));
-  _Document = std::make_unique<voxhost::Document>(WorkbenchTypes());
+  _Document = std::make_unique<voxhost::Document>(WorkbenchTypes(iRelease));
   _Document->SetExplicitModel(_Explicit.get());
   ModelBuilder builder(_Records, *_Document, *_Explicit);
   _Root = builder.Build();
@@ -40,8 +42,9 @@ std::string LoadedModel::Build(NeutralModel ioRecords, std::shared_ptr<const vox
 }
 
 bool LoadedModel::Restore(NeutralModel ioRecords, std::unique_ptr<voxhost::ExplicitModel> iExplicit,
-                          std::unique_ptr<voxhost::Document> iDocument)
+                          std::unique_ptr<voxhost::Document> iDocument, int iRelease)
 {
+  _Release = iRelease;
   _Records = std::move(ioRecords);
   _Explicit = std::move(iExplicit);
   _Document = std::move(iDocument);

@@ -2,6 +2,7 @@
 #pragma once
 #include "host/ExplicitModel/ExplicitModel.h"
 #include "host/FeatureModeler/Document.h"
+#include "voxbench/features/Releases.h"
 #include "voxbench/readers/NeutralModel.h"
 
 #include <cstdint>
@@ -26,13 +27,21 @@ public:
   LoadedModel& operator=(const LoadedModel&) = delete;
 
   //! Makes document and explicit model; once. @return what is wrong, a sentence: the model is then of no use; else "".
-  //! @param iRules what the explicit model may be made of.
+  //! @param iRules what the explicit model may be made of. @param iRelease whose start-ups features are made from.
   std::string Build(NeutralModel ioRecords,
-                    std::shared_ptr<const voxhost::ExplicitRules> iRules = voxhost::ExplicitRules::Default());
+                    std::shared_ptr<const voxhost::ExplicitRules> iRules = voxhost::ExplicitRules::Default(),
+                    int iRelease = kNewestRelease);
 
   //! Takes over what a store kept; once. @return false when the document has no analysis model.
   bool Restore(NeutralModel ioRecords, std::unique_ptr<voxhost::ExplicitModel> iExplicit,
-               std::unique_ptr<voxhost::Document> iDocument);
+               std::unique_ptr<voxhost::Document> iDocument, int iRelease = kNewestRelease);
+
+  //! The release whose start-ups the features were made from, or upgraded to.
+  int Release() const { return _Release; }
+
+  //! What a store tells the content of the opened file by; "" for a deck.
+  const std::string& Seal() const { return _Seal; }
+  void SetSeal(std::string iSeal) { _Seal = std::move(iSeal); }
 
   const NeutralModel& Records() const { return _Records; }
   voxhost::Document& Document() const { return *_Document; }
@@ -73,6 +82,8 @@ private:
   std::unique_ptr<voxhost::ExplicitModel> _Explicit; // outlives the document, whose features have handles on it
   std::unique_ptr<voxhost::Document> _Document;
   voxhost::Feature* _Root = nullptr;
+  int _Release = kNewestRelease;
+  std::string _Seal;
 };
 
 } // namespace voxbench

@@ -95,6 +95,7 @@ private:
   static std::string NameOfSide(const SideTargets& iTargets);
   using ComponentValues = std::vector<std::pair<std::string, double>>; // by type of the component
   void ChooseSectionKind(voxhost::Feature& ioProperty, const Section& iSection);
+  void FillPlies(voxhost::Feature& ioProperty, const Section& iSection);
   void ChooseRestraintKind(voxhost::Feature& ioRestraint, const AppliedCard& iCard);
   void Choose(voxhost::Feature& ioFeature, int iIndex, const ComponentValues& iValues);
 

@@ -10,6 +10,7 @@
 #include "voxbench/commands/ParamsCommand.h"
 #include "voxbench/commands/ResultsCommand.h"
 #include "voxbench/commands/TreeCommand.h"
+#include "voxbench/commands/UpgradeCommand.h"
 #include "voxbench/commands/ViewCommands.h"
 
 namespace voxbench
@@ -28,9 +29,9 @@ std::unique_ptr<Command> Make()
 const std::vector<CommandFactory>& CommandTable()
 {
   static const std::vector<CommandFactory> table{
-      Make<InfoCommand>,   Make<TreeCommand>,    Make<GroupsCommand>,      Make<CheckCommand>, Make<AxesCommand>,
-      Make<OwnerCommand>,  Make<ParamsCommand>,  Make<ConnectionsCommand>, Make<ShowCommand>,  Make<HideCommand>,
-      Make<ImportCommand>, Make<ResultsCommand>, Make<ExpressionsCommand>};
+      Make<InfoCommand>,   Make<TreeCommand>,    Make<GroupsCommand>,      Make<CheckCommand>,  Make<AxesCommand>,
+      Make<OwnerCommand>,  Make<ParamsCommand>,  Make<ConnectionsCommand>, Make<ShowCommand>,   Make<HideCommand>,
+      Make<ImportCommand>, Make<ResultsCommand>, Make<ExpressionsCommand>, Make<UpgradeCommand>};
   return table;
 }
 

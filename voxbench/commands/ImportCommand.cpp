@@ -32,6 +32,9 @@ void ImportCommand::DeclareOptions(CLI::App& ioParser)
   ioParser.get_option("FILE")->description("The keyword deck (.inp, .inp.gz)");
   ioParser.add_option("-o,--output", _Document, "The document to write (.voxdoc)")->required()->option_text("DOCUMENT");
   ioParser.add_flag("--force", _Force, "Replace DOCUMENT if it is there already");
+  ioParser.add_option("--catalogue", _Release, "Write as the release of that number would have (voxbench upgrade)")
+      ->check(CLI::Range(1, kNewestRelease))
+      ->option_text("NUMBER");
 }
 
 int ImportCommand::Run(Console& ioConsole)
@@ -45,7 +48,7 @@ int ImportCommand::Run(Console& ioConsole)
   if (const std::string reason = ReasonToRefuse(); !reason.empty())
     return Refuse(reason, ioConsole);
   LoadedModel model;
-  if (const int code = OpenModel(_File.file, ioConsole, model); code != kExitDone)
+  if (const int code = OpenModel(_File.file, ioConsole, model, _Release); code != kExitDone)
     return code;
   std::string reason;
   {

@@ -20,6 +20,7 @@ private:
 
   FileOptions _File;
   std::string _Document;
+  int _Release = kNewestRelease;
   bool _Force = false;
 };
 

@@ -62,14 +62,14 @@ int OpenRecords(const std::string& iFile, Console& ioConsole, NeutralModel& oRec
   return outcome.ok ? static_cast<int>(kExitDone) : Unreadable(outcome, ioConsole);
 }
 
-int OpenModel(const std::string& iFile, Console& ioConsole, LoadedModel& oModel)
+int OpenModel(const std::string& iFile, Console& ioConsole, LoadedModel& oModel, int iRelease)
 {
   if (IsDocumentFile(iFile))
     return OpenDocument(iFile, ioConsole, oModel);
   NeutralModel records;
   if (const int code = OpenRecords(iFile, ioConsole, records); code != kExitDone)
     return code;
-  const std::string reason = oModel.Build(std::move(records));
+  const std::string reason = oModel.Build(std::move(records), voxhost::ExplicitRules::Default(), iRelease);
   return Outcome(reason.empty() ? "" : iFile + ": " + reason, ioConsole);
 }
 

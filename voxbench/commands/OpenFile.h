@@ -25,7 +25,9 @@ struct FileOptions
 
 //! Reads a file with a progress bar. @return kExitDone; kExitUnreadable after a sentence to the error stream.
 int OpenRecords(const std::string& iFile, Console& ioConsole, NeutralModel& oRecords);
-int OpenModel(const std::string& iFile, Console& ioConsole, LoadedModel& oModel);
+
+//! @param iRelease whose start-ups are used for a deck; a document has its own.
+int OpenModel(const std::string& iFile, Console& ioConsole, LoadedModel& oModel, int iRelease = kNewestRelease);
 
 //! Hands the output over. @return iCode, or kExitSomeFailed after a sentence when it cannot be written.
 int FinishOutput(Output& ioOutput, Console& ioConsole, int iCode);

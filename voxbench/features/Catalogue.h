@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include "host/FeatureModeler/TypeCatalogue.h"
+#include "voxbench/features/Releases.h"
 
 #include <memory>
 
@@ -8,10 +8,11 @@ namespace voxbench
 {
 
 //! The types that the workbench's documents are made of: those of every analysis document and the workbench's own, with
-//! the adaptors that carry their interfaces declared in the type dictionary. Made once.
-std::shared_ptr<const voxhost::TypeCatalogue> WorkbenchTypes();
+//! the adaptors that carry their interfaces declared in the type dictionary. Those of the newest release are made once.
+//! @param iRelease 1 to kNewestRelease.
+std::shared_ptr<const voxhost::TypeCatalogue> WorkbenchTypes(int iRelease = kNewestRelease);
 
 //! The declarations that these types were made from, bases first.
-std::vector<voxhost::TypeDeclaration> WorkbenchDeclarations();
+std::vector<voxhost::TypeDeclaration> WorkbenchDeclarations(int iRelease = kNewestRelease);
 
 } // namespace voxbench

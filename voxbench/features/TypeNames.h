@@ -13,9 +13,12 @@ inline constexpr const char* kMaterialGroupType = "DeckMaterialGroup";
 inline constexpr const char* kMaterialType = "DeckMaterial";
 inline constexpr const char* kLoadType = "DeckLoad";
 inline constexpr const char* kRestraintType = "DeckRestraint";
+//! What a restraint was before release 3; its attributes have other names and types.
+inline constexpr const char* kFormerRestraintType = "DeckBoundary";
 inline constexpr const char* kConstraintType = "DeckConstraint";
 inline constexpr const char* kMassType = "DeckMass";
 inline constexpr const char* kPropertyType = "DeckProperty";
+inline constexpr const char* kLayeredShellType = "DeckLayeredShell";
 inline constexpr const char* kModulationType = "DeckModulation";
 inline constexpr const char* kSensorType = "DeckSensor";
 inline constexpr const char* kAxisType = "DeckAxis";
@@ -35,5 +38,7 @@ inline constexpr const char* kDashpotCoefficientType = "DashpotCoefficient";
 inline constexpr const char* kGapClearanceType = "GapClearance";
 inline constexpr const char* kPrescribedValueType = "PrescribedValue";
 inline constexpr const char* kModulationFactorType = "ModulationFactor";
+inline constexpr const char* kPliesType = "ShellPlies";
+inline constexpr const char* kPlyThicknessType = "PlyThickness";
 
 } // namespace voxbench

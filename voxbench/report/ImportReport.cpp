@@ -16,6 +16,7 @@ ImportResult DescribeImport(const std::string& iDeck, const std::string& iDocume
   return {iDeck,
           iDocument,
           unknown ? 0 : bytes,
+          iModel.Release(),
           static_cast<std::int64_t>(iModel.Document().NumberOfFeatures()),
           static_cast<std::int64_t>(iModel.Explicit().Mesh().nodeIds.size()),
           static_cast<std::int64_t>(iModel.Explicit().Mesh().elementIds.size())};
@@ -23,8 +24,8 @@ ImportResult DescribeImport(const std::string& iDeck, const std::string& iDocume
 
 void PrintImport(Output& ioOutput, const ImportResult& iResult)
 {
-  ioOutput.Write(fmt::format("{}: {}, {}, {}.\n", iResult.document, Counted(iResult.features, "feature", "features"),
-                             Counted(iResult.nodes, "node", "nodes"),
+  ioOutput.Write(fmt::format("{}: release {}, {}, {}, {}.\n", iResult.document, iResult.release,
+                             Counted(iResult.features, "feature", "features"), Counted(iResult.nodes, "node", "nodes"),
                              Counted(iResult.elements, "element", "elements")));
 }
 
@@ -33,6 +34,7 @@ void WriteImportJson(Output& ioOutput, const ImportResult& iResult)
   WriteJson(ioOutput, {{"deck", iResult.deck},
                        {"document", iResult.document},
                        {"bytes", iResult.bytes},
+                       {"release", iResult.release},
                        {"features", iResult.features},
                        {"nodes", iResult.nodes},
                        {"elements", iResult.elements}});

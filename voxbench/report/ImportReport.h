@@ -15,6 +15,7 @@ struct ImportResult
   std::string deck;
   std::string document;
   std::uint64_t bytes = 0; //!< of the document
+  int release = 0;         //!< of the start-ups
   std::int64_t features = 0;
   std::int64_t nodes = 0;
   std::int64_t elements = 0;

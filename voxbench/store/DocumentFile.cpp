@@ -40,6 +40,13 @@ std::string Guarded(const std::string& iFile, Work iWork)
   }
 }
 
+//! A copy of a document must be what was opened: another program may have written meanwhile.
+void RefuseOther(const Database& iDatabase, const LoadedModel& iModel)
+{
+  if (ReadSeal(iDatabase) != iModel.Seal())
+    throw StoreError("another program has changed it meanwhile: try again.");
+}
+
 void Compare(const Database& iDatabase, const char* iName, const Checksum& iSum)
 {
   if (ReadMetaText(iDatabase, iName) != iSum.Text())
@@ -66,7 +73,8 @@ private:
   }
 };
 
-void WriteFeaturesAndObjects(Database& ioDatabase, const LoadedModel& iModel, const StoreProgress& iProgress)
+void WriteFeaturesAndObjects(const Database& ioDatabase, const LoadedModel& iModel, int iRelease,
+                             const StoreProgress& iProgress)
 {
   Checksum document;
   WriteDocument(ioDatabase, iModel.Document(), document, iProgress);
@@ -75,6 +83,7 @@ void WriteFeaturesAndObjects(Database& ioDatabase, const LoadedModel& iModel, co
   const auto tagOf = [&iModel](const VOXSamModelDataRoot* iObject)
   { return std::int64_t{iObject == nullptr ? 0 : iModel.Explicit().TagOf(*iObject)}; };
   WriteMeta(ioDatabase, "program", std::string(VOXBENCH_VERSION));
+  WriteMeta(ioDatabase, "catalogue", std::int64_t{iRelease});
   WriteMeta(ioDatabase, "last_feature", std::int64_t{voxhost::Restoration::LastIdentifier(iModel.Document())});
   WriteMeta(ioDatabase, "tags", static_cast<std::int64_t>(iModel.Explicit().RecordCount()));
   WriteMeta(ioDatabase, "global_frame", tagOf(iModel.Explicit().GlobalFrame()));
@@ -92,7 +101,7 @@ void WriteAll(const std::string& iFile, const LoadedModel& iModel, const StorePr
   database.Execute(fmt::format("PRAGMA user_version = {}", kFormatVersion).c_str());
   database.Execute("BEGIN");
   database.Execute(kMakeTables);
-  WriteFeaturesAndObjects(database, iModel, iProgress);
+  WriteFeaturesAndObjects(database, iModel, iModel.Release(), iProgress);
   Checksum mesh;
   WriteMesh(database, iModel.Explicit().Mesh(), mesh);
   Checksum records;
@@ -129,8 +138,10 @@ std::string ReadDocumentFile(const std::string& iFile, LoadedModel& oModel, cons
                    Checksum recordSum;
                    const std::vector<StoredRecord> records = ReadRecordTable(file.database, recordSum);
                    Compare(file.database, "record_sum", recordSum);
-                   if (!oModel.Restore(UnpackRecords(records), std::move(objects), std::move(document)))
+                   const auto release = static_cast<int>(ReadMetaNumber(file.database, "catalogue"));
+                   if (!oModel.Restore(UnpackRecords(records), std::move(objects), std::move(document), release))
                      throw Damaged("it has no analysis model");
+                   oModel.SetSeal(ReadSeal(file.database));
                  });
 }
 
@@ -148,6 +159,28 @@ std::string ReadDocumentRecords(const std::string& iFile, NeutralModel& oRecords
                    Compare(file.database, "mesh_sum", meshSum);
                    oRecords = UnpackRecords(records);
                    FillMesh(mesh, oRecords);
+                 });
+}
+
+std::string RewriteDocumentFile(const std::string& iFile, const LoadedModel& iModel, int iRelease,
+                                const StoreProgress& iProgress, std::string& oBackup)
+{
+  return Guarded(iFile,
+                 [&]
+                 {
+                   PendingFile pending(iFile);
+                   pending.CopyFrom(iFile);
+                   Database database(pending.Path(), Database::Mode::kWrite);
+                   database.Execute("PRAGMA journal_mode = OFF"); // the old file is the journal
+                   database.Execute("PRAGMA synchronous = OFF");
+                   database.Execute("BEGIN IMMEDIATE");
+                   RefuseOther(database, iModel);
+                   database.Execute(kEmptyTables);
+                   WriteFeaturesAndObjects(database, iModel, iRelease, iProgress);
+                   SealMeta(database);
+                   database.Execute("COMMIT");
+                   database.Close();
+                   oBackup = pending.ReplaceKeepingOld();
                  });
 }
 

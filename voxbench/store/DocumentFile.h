@@ -23,6 +23,13 @@ std::string ReadDocumentFile(const std::string& iFile, LoadedModel& oModel, cons
 //! @return as ReadDocumentFile.
 std::string ReadDocumentRecords(const std::string& iFile, NeutralModel& oRecords);
 
+//! Writes features and objects of an opened document back in one transaction; mesh, records, and what this program does
+//! not know of the file stay. The old file is kept.
+//! @param iRelease whose start-ups the features have now. @param oBackup name of the old file: the new one's with
+//! ".backup-" and the first number that is free behind. @return what is wrong, a sentence: the file is as it was; else "".
+std::string RewriteDocumentFile(const std::string& iFile, const LoadedModel& iModel, int iRelease,
+                                const StoreProgress& iProgress, std::string& oBackup);
+
 //! Writes a new document in one step. @param iOverwrite whether a file of that name may go. @return what is wrong, a
 //! sentence: nothing was written; else "".
 std::string WriteDocumentFile(const std::string& iFile, const LoadedModel& iModel, bool iOverwrite,

@@ -79,9 +79,14 @@ void SealMeta(const Database& iDatabase)
   WriteMeta(iDatabase, kSeal, SumOf(iDatabase));
 }
 
+std::string ReadSeal(const Database& iDatabase)
+{
+  return ReadMetaText(iDatabase, kSeal);
+}
+
 void RefuseBrokenSeal(const Database& iDatabase)
 {
-  if (ReadMetaText(iDatabase, kSeal) != SumOf(iDatabase))
+  if (ReadSeal(iDatabase) != SumOf(iDatabase))
     throw Damaged("what it tells about itself does not add up");
 }
 

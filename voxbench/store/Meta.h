@@ -17,6 +17,7 @@ std::string ReadMetaText(const Database& iDatabase, const char* iName);
 
 //! Sums all facts up, and compares with the sum that was kept.
 void SealMeta(const Database& iDatabase);
+std::string ReadSeal(const Database& iDatabase); //!< other for every other content
 void RefuseBrokenSeal(const Database& iDatabase);
 
 } // namespace voxbench

@@ -121,6 +121,38 @@ void PendingFile::Replace()
   SettleFolder();
 }
 
+std::string PendingFile::ReplaceKeepingOld()
+{
+  if (access(_Target.c_str(), W_OK) != 0)
+    Fail(_Target, "written");
+  Settle();
+  const std::string backup = KeepOld();
+  try
+  {
+    Replace();
+  }
+  catch (...)
+  {
+    if (!_IsPlaced)
+      unlink(backup.c_str());
+    throw;
+  }
+  return backup;
+}
+
+//! A second name for the old file: it costs nothing, and a name that is taken is never taken away.
+std::string PendingFile::KeepOld() const
+{
+  for (int number = 1;; ++number)
+  {
+    std::string backup = fmt::format("{}.backup-{}", _Target, number);
+    if (link(_Target.c_str(), backup.c_str()) == 0)
+      return backup;
+    if (errno != EEXIST)
+      Fail(backup, "made");
+  }
+}
+
 bool PendingFile::TakeFreePlace()
 {
   Settle();

@@ -27,10 +27,15 @@ public:
   //! Waits for the disk, then takes the place of the target, whatever stands there.
   void Replace();
 
+  //! The same; the old file is kept as the target's name with ".backup-" and the first free number from 1 behind.
+  //! @return that name.
+  std::string ReplaceKeepingOld();
+
   //! The same, but only where nothing stands. @return false when something does: nothing changed.
   bool TakeFreePlace();
 
 private:
+  std::string KeepOld() const;
   void Settle() const;
   void SettleFolder() const;
 

@@ -109,8 +109,9 @@ bool IsOfTheRoot(const TypeDeclaration& iDeclaration)
 
 std::shared_ptr<const voxhost::TypeCatalogue> CatalogueFor(Merging& ioMerging)
 {
+  const auto known = WorkbenchTypes(); // first of all: it declares the adaptors that carry the interfaces
   if (!ioMerging.adds)
-    return WorkbenchTypes();
+    return known;
   const auto catalogue = std::make_shared<voxhost::TypeCatalogue>();
   if (const std::string wrong = catalogue->Declare(ioMerging.declarations); !wrong.empty())
     throw StoreError(fmt::format("its feature types do not fit this program: {}.", wrong));
