@@ -5,6 +5,7 @@
 #include "host/Instruments/Ledger.h"
 #include "voxbench/store/DocumentFile.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -162,6 +163,24 @@ TEST_F(KeptDocument, KnowsItsRecordsAgain)
   EXPECT_EQ(opened.Records().loads[0].rows.size(), model.Records().loads[0].rows.size());
   EXPECT_EQ(opened.Records().loads[0].values[0], model.Records().loads[0].values[0]);
   EXPECT_EQ(opened.FamilyOf(0), model.FamilyOf(0));
+}
+
+TEST_F(KeptDocument, TellsHowFarItsOpeningIs)
+{
+  for (int number = 0; number < 3000; ++number)
+    model.Document().New("DeckSensor", "sensor")->Set("Step", std::int32_t{number});
+  ASSERT_EQ(voxbench::WriteDocumentFile(file, model, true, {}), "");
+  std::vector<std::uint64_t> told;
+  std::uint64_t total = 0;
+  const auto progress = [&](std::uint64_t iDone, std::uint64_t iTotal)
+  {
+    told.push_back(iDone);
+    total = iTotal;
+  };
+  ASSERT_EQ(voxbench::ReadDocumentFile(file, opened, progress), "");
+  EXPECT_GT(told.size(), 6u); // one per 1024 features, one per 1024 values, one per array of the mesh
+  EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+  EXPECT_EQ(told.back(), total);
 }
 
 TEST_F(KeptDocument, GivesBackAllThatItTook)

@@ -52,7 +52,7 @@ TEST_F(Import, EverySubcommandTellsOfTheDocumentWhatItTellsOfTheDeck)
   {
     const std::string file = voxtest::DataFile(name);
     ASSERT_EQ(RunInProcess({"import", file, "-o", document, "--force"}).code, 0);
-    for (const char* const command : {"tree", "groups", "check", "axes", "params", "connections"})
+    for (const char* const command : {"tree", "groups", "check", "axes", "params", "connections", "expressions"})
     {
       const auto ofDeck = RunInProcess({command, file, "--json"});
       const auto ofDocument = RunInProcess({command, document, "--json"});

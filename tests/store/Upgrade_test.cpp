@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "AnalysisInterfaces/VOXISamUpgradeContainer.h"
 #include "UpgradedDocument.h"
 #include "host/Instruments/Faults.h"
 #include "host/Instruments/Ledger.h"
@@ -273,6 +274,33 @@ TEST_F(UpgradeCommand, IsDoneWhenNothingWasSkipped)
   const auto run = RunUpgrade({"--write"});
   EXPECT_EQ(run.code, 0);
   EXPECT_THAT(run.out, HasSubstr("Done: 1 layered. The old document is " + file + ".backup-1."));
+}
+
+TEST_F(UpgradeCommand, IsOfferedByTheContainerOfTheFeaturesToo)
+{
+  LoadedModel model;
+  ASSERT_EQ(voxbench::ReadDocumentFile(file, model, {}), "");
+  const VOXISamUpgradeContainer_var spUpgrade(&model.Document().MainContainer());
+  ASSERT_FALSE(!spUpgrade);
+  EXPECT_TRUE(spUpgrade->NeedToUpgraded(2, 0));
+  EXPECT_FALSE(spUpgrade->NeedToUpgraded(voxbench::kNewestRelease, 0));
+  EXPECT_EQ(spUpgrade->UpgradeObject(&model.Root()), S_FALSE);
+  EXPECT_EQ(spUpgrade->UpgradeObject(nullptr), E_FAIL);
+  EXPECT_EQ(spUpgrade->UpgradeContainer(), S_OK);
+  for (const Feature* const restraint : model.MembersOf("RestraintSet"))
+    EXPECT_EQ(restraint->Type().Name(), "DeckRestraint");
+}
+
+TEST_F(UpgradeCommand, FailsForAContainerOfWhichSomethingCannotBeReplaced)
+{
+  LoadedModel model;
+  ASSERT_EQ(voxbench::ReadDocumentFile(file, model, {}), "");
+  const VOXISamUpgradeContainer_var spUpgrade(&model.Document().MainContainer());
+  voxhost::Faults::FailOperation("VOXISpecObject::Instantiate", 1, false);
+  EXPECT_EQ(spUpgrade->UpgradeContainer(), E_FAIL);
+  voxhost::Faults::Disarm();
+  EXPECT_EQ(model.MembersOf("RestraintSet")[0]->Type().Name(), "DeckBoundary");
+  EXPECT_EQ(model.MembersOf("RestraintSet")[1]->Type().Name(), "DeckRestraint");
 }
 
 TEST_F(UpgradeCommand, RefusesADeck)

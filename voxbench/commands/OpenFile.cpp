@@ -38,6 +38,17 @@ int OpenDocument(const std::string& iFile, Console& ioConsole, LoadedModel& oMod
   return Outcome(reason, ioConsole);
 }
 
+int OpenDocumentRecords(const std::string& iFile, Console& ioConsole, NeutralModel& oRecords)
+{
+  std::string reason;
+  {
+    Progress progress(ioConsole.errors, "Opening " + iFile, ioConsole.errorsAreTerminal);
+    reason = ReadDocumentRecords(
+        iFile, oRecords, [&progress](std::uint64_t iDone, std::uint64_t iTotal) { progress.Report(iDone, iTotal); });
+  }
+  return Outcome(reason, ioConsole);
+}
+
 } // namespace
 
 void FileOptions::Declare(CLI::App& ioParser)
@@ -51,7 +62,7 @@ void FileOptions::Declare(CLI::App& ioParser)
 int OpenRecords(const std::string& iFile, Console& ioConsole, NeutralModel& oRecords)
 {
   if (IsDocumentFile(iFile))
-    return Outcome(ReadDocumentRecords(iFile, oRecords), ioConsole);
+    return OpenDocumentRecords(iFile, ioConsole, oRecords);
   ReadOutcome outcome;
   {
     Progress progress(ioConsole.errors, "Reading " + iFile, ioConsole.errorsAreTerminal);

@@ -11,6 +11,7 @@
 
 #include <fmt/format.h>
 #include <new>
+#include <utility>
 
 namespace voxbench
 {
@@ -73,6 +74,19 @@ private:
   }
 };
 
+//! Features come first, then the mesh: two progresses that add up to one.
+std::pair<StoreProgress, StoreProgress> InTwoParts(Database& ioDatabase, const StoreProgress& iWhole)
+{
+  if (!iWhole)
+    return {};
+  constexpr std::uint64_t kRowsPerChunk = 20000; // that take about as long as a chunk
+  const auto rows = 2 * static_cast<std::uint64_t>(ReadMetaNumber(ioDatabase, "last_feature"));
+  const auto chunks = static_cast<std::uint64_t>(ioDatabase.Integer("SELECT count(*) FROM mesh"));
+  const std::uint64_t total = rows + kRowsPerChunk * chunks;
+  return {[iWhole, total](std::uint64_t iDone, std::uint64_t) { iWhole(iDone, total); },
+          [iWhole, rows, total](std::uint64_t iDone, std::uint64_t) { iWhole(rows + kRowsPerChunk * iDone, total); }};
+}
+
 void WriteFeaturesAndObjects(const Database& ioDatabase, const LoadedModel& iModel, int iRelease,
                              const StoreProgress& iProgress)
 {
@@ -126,11 +140,12 @@ std::string ReadDocumentFile(const std::string& iFile, LoadedModel& oModel, cons
                  [&]
                  {
                    DocumentAtRest file(iFile);
+                   const auto [ofFeatures, ofMesh] = InTwoParts(file.database, iProgress);
                    Checksum features;
-                   std::unique_ptr<voxhost::Document> document = ReadDocument(file.database, features, iProgress);
+                   std::unique_ptr<voxhost::Document> document = ReadDocument(file.database, features, ofFeatures);
                    Compare(file.database, "feature_sum", features);
                    Checksum meshSum;
-                   voxhost::MeshData mesh = ReadMesh(file.database, meshSum);
+                   voxhost::MeshData mesh = ReadMesh(file.database, meshSum, ofMesh);
                    Compare(file.database, "mesh_sum", meshSum);
                    Checksum objectSum;
                    auto objects = ReadObjects(file.database, std::move(mesh), *document, objectSum);
@@ -145,7 +160,7 @@ std::string ReadDocumentFile(const std::string& iFile, LoadedModel& oModel, cons
                  });
 }
 
-std::string ReadDocumentRecords(const std::string& iFile, NeutralModel& oRecords)
+std::string ReadDocumentRecords(const std::string& iFile, NeutralModel& oRecords, const StoreProgress& iProgress)
 {
   return Guarded(iFile,
                  [&]
@@ -155,7 +170,7 @@ std::string ReadDocumentRecords(const std::string& iFile, NeutralModel& oRecords
                    const std::vector<StoredRecord> records = ReadRecordTable(file.database, recordSum);
                    Compare(file.database, "record_sum", recordSum);
                    Checksum meshSum;
-                   const voxhost::MeshData mesh = ReadMesh(file.database, meshSum);
+                   const voxhost::MeshData mesh = ReadMesh(file.database, meshSum, iProgress);
                    Compare(file.database, "mesh_sum", meshSum);
                    oRecords = UnpackRecords(records);
                    FillMesh(mesh, oRecords);

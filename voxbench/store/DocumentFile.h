@@ -21,7 +21,7 @@ std::string ReadDocumentFile(const std::string& iFile, LoadedModel& oModel, cons
 
 //! Reads the records of a document and its mesh, as a reader of decks leaves them; the members of sets are left out.
 //! @return as ReadDocumentFile.
-std::string ReadDocumentRecords(const std::string& iFile, NeutralModel& oRecords);
+std::string ReadDocumentRecords(const std::string& iFile, NeutralModel& oRecords, const StoreProgress& iProgress);
 
 //! Writes features and objects of an opened document back in one transaction; mesh, records, and what this program does
 //! not know of the file stay. The old file is kept.

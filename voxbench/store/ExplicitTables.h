@@ -3,6 +3,7 @@
 #include "host/ExplicitModel/ExplicitModel.h"
 #include "host/FeatureModeler/Document.h"
 #include "voxbench/store/Database.h"
+#include "voxbench/store/DocumentFile.h"
 
 #include <memory>
 
@@ -16,7 +17,8 @@ void WriteObjects(const Database& iDatabase, const voxhost::ExplicitModel& iMode
 //! Writes the arrays of a mesh in chunks.
 void WriteMesh(const Database& iDatabase, const voxhost::MeshData& iMesh, Checksum& ioSum);
 
-voxhost::MeshData ReadMesh(const Database& iDatabase, Checksum& ioSum);
+//! @param iProgress told the chunks.
+voxhost::MeshData ReadMesh(const Database& iDatabase, Checksum& ioSum, const StoreProgress& iProgress);
 
 //! Reads what WriteObjects wrote into a new model with a mesh. Tags are kept.
 //! @param iDocument the features that objects stand for.

@@ -27,34 +27,60 @@ void WriteArray(Statement& ioRow, const char* iName, const SharedArray<T>& iArra
   }
 }
 
-template <class T>
-SharedArray<T> ReadArray(const Database& iDatabase, const char* iName, Checksum& ioSum)
+class MeshReader
 {
-  Statement size(iDatabase, "SELECT coalesce(sum(length(data)), 0) FROM mesh WHERE array = ?1");
-  size.Add(iName);
-  size.Next();
-  std::vector<T> values;
-  values.reserve(static_cast<std::size_t>(size.Integer(0, INT64_MAX)) / sizeof(T));
-
-  Statement row(iDatabase, "SELECT array, chunk, data FROM mesh WHERE array = ?1 ORDER BY chunk");
-  row.Add(iName);
-  std::int64_t expected = 0;
-  while (row.Next())
+public:
+  MeshReader(const Database& iDatabase, Checksum& ioSum, const StoreProgress& iProgress)
+      : _Database(iDatabase),
+        _Sum(ioSum),
+        _Progress(iProgress)
   {
-    ioSum.Add(BytesOf(row.Text().data(), std::string_view(iName).size()));
-    ioSum.Add(static_cast<std::uint64_t>(row.Integer(expected, expected)));
-    const std::span<const std::byte> bytes = row.Blob();
-    ioSum.Add(bytes);
-    if (bytes.size() % sizeof(T) != 0)
-      throw Damaged(fmt::format("array {} of the mesh ends within an element", iName));
-    const std::size_t before = values.size();
-    values.resize(before + bytes.size() / sizeof(T));
-    if (!bytes.empty())
-      std::memcpy(values.data() + before, bytes.data(), bytes.size());
-    ++expected;
+    Statement chunks(iDatabase, "SELECT count(*) FROM mesh");
+    chunks.Next();
+    _Total = static_cast<std::uint64_t>(chunks.Integer(0, INT64_MAX));
   }
-  return SharedArray<T>(std::move(values));
-}
+
+  template <class T>
+  SharedArray<T> Read(const char* iName)
+  {
+    std::vector<T> values;
+    values.reserve(SizeOf(iName) / sizeof(T));
+    Statement row(_Database, "SELECT array, chunk, data FROM mesh WHERE array = ?1 ORDER BY chunk");
+    row.Add(iName);
+    std::int64_t expected = 0;
+    for (; row.Next(); ++expected)
+    {
+      _Sum.Add(BytesOf(row.Text().data(), std::string_view(iName).size()));
+      _Sum.Add(static_cast<std::uint64_t>(row.Integer(expected, expected)));
+      const std::span<const std::byte> bytes = row.Blob();
+      _Sum.Add(bytes);
+      if (bytes.size() % sizeof(T) != 0)
+        throw Damaged(fmt::format("array {} of the mesh ends within an element", iName));
+      const std::size_t before = values.size();
+      values.resize(before + bytes.size() / sizeof(T));
+      if (!bytes.empty())
+        std::memcpy(values.data() + before, bytes.data(), bytes.size());
+      if (_Progress)
+        _Progress(++_Done, _Total);
+    }
+    return SharedArray<T>(std::move(values));
+  }
+
+private:
+  std::size_t SizeOf(const char* iName) const
+  {
+    Statement size(_Database, "SELECT coalesce(sum(length(data)), 0) FROM mesh WHERE array = ?1");
+    size.Add(iName);
+    size.Next();
+    return static_cast<std::size_t>(size.Integer(0, INT64_MAX));
+  }
+
+  const Database& _Database;
+  Checksum& _Sum;
+  const StoreProgress& _Progress;
+  std::uint64_t _Done = 0;
+  std::uint64_t _Total = 0;
+};
 
 bool IsAscending(const SharedArray<std::int32_t>& iIds)
 {
@@ -86,15 +112,16 @@ void WriteMesh(const Database& iDatabase, const voxhost::MeshData& iMesh, Checks
   WriteArray(row, "connectivity", iMesh.connectivity);
 }
 
-voxhost::MeshData ReadMesh(const Database& iDatabase, Checksum& ioSum)
+voxhost::MeshData ReadMesh(const Database& iDatabase, Checksum& ioSum, const StoreProgress& iProgress)
 {
+  MeshReader reader(iDatabase, ioSum, iProgress);
   voxhost::MeshData mesh;
-  mesh.nodeIds = ReadArray<std::int32_t>(iDatabase, "node_ids", ioSum);
-  mesh.coordinates = ReadArray<double>(iDatabase, "coordinates", ioSum);
-  mesh.elementIds = ReadArray<std::int32_t>(iDatabase, "element_ids", ioSum);
-  mesh.elementTypes = ReadArray<std::uint16_t>(iDatabase, "element_types", ioSum);
-  mesh.offsets = ReadArray<std::uint32_t>(iDatabase, "offsets", ioSum);
-  mesh.connectivity = ReadArray<std::int32_t>(iDatabase, "connectivity", ioSum);
+  mesh.nodeIds = reader.Read<std::int32_t>("node_ids");
+  mesh.coordinates = reader.Read<double>("coordinates");
+  mesh.elementIds = reader.Read<std::int32_t>("element_ids");
+  mesh.elementTypes = reader.Read<std::uint16_t>("element_types");
+  mesh.offsets = reader.Read<std::uint32_t>("offsets");
+  mesh.connectivity = reader.Read<std::int32_t>("connectivity");
   Validate(mesh);
   return mesh;
 }
