@@ -54,7 +54,7 @@ std::string TextOfState(const Feature& iFeature)
 std::string TextOfReferrers(const Feature& iFeature)
 {
   std::vector<std::string> referrers;
-  for (const Feature::Referrer& referrer : iFeature.Referrers())
+  for (const voxhost::Referrer& referrer : iFeature.Referrers())
     referrers.push_back(fmt::format("{}.{}", referrer.feature->Identifier(), referrer.attribute));
   std::sort(referrers.begin(), referrers.end());
   return fmt::format("{}", fmt::join(referrers, " "));
