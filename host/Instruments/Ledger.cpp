@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/Instruments/Ledger.h"
 
+#include <cstdint>
 #include <cstdlib>
 
 namespace voxhost
@@ -8,10 +9,11 @@ namespace voxhost
 namespace
 {
 
-// The arrays that are out. Plain C memory: a test's operator delete[] calls in here.
+// The arrays that are out. Plain C memory: a test's operator delete[] calls in here. Addresses are kept inverted, so that
+// a leak checker does not take them for references.
 struct ArraysOut
 {
-  const void** arrays = nullptr;
+  std::uintptr_t* arrays = nullptr;
   std::size_t size = 0;
   std::size_t capacity = 0;
 
@@ -20,22 +22,25 @@ struct ArraysOut
     if (size == capacity)
     {
       capacity = capacity == 0 ? 64 : 2 * capacity;
-      arrays = static_cast<const void**>(std::realloc(arrays, capacity * sizeof(void*)));
+      arrays = static_cast<std::uintptr_t*>(std::realloc(arrays, capacity * sizeof(std::uintptr_t)));
     }
-    arrays[size++] = iArray;
+    arrays[size++] = Inverted(iArray);
   }
 
   bool Remove(const void* iArray)
   {
     for (std::size_t i = size; i-- > 0;)
     {
-      if (arrays[i] != iArray)
+      if (arrays[i] != Inverted(iArray))
         continue;
       arrays[i] = arrays[--size];
       return true;
     }
     return false;
   }
+
+private:
+  static std::uintptr_t Inverted(const void* iArray) { return ~reinterpret_cast<std::uintptr_t>(iArray); }
 };
 
 ArraysOut g_arraysOut;

@@ -119,6 +119,7 @@ TEST(DeliberateLeaks, WhatAFactoryMakesAndIsNoFeature)
 
 TEST(DeliberateLeaks, WhatAnOperationReadThatFailsWithinItsOwnCleanUp)
 {
+  voxhost::Ledger::TurnOn(); // it notices that an array returns
   Lose("VOXEExpressionCollector::GetExpression", 7,
        []
        {
@@ -127,6 +128,7 @@ TEST(DeliberateLeaks, WhatAnOperationReadThatFailsWithinItsOwnCleanUp)
          const WhenArraysReturn whileCleaningUp([&] { EXPECT_EQ(FailToRead(inner), E_FAIL); });
          EXPECT_EQ(FailToRead(outer), E_FAIL);
        });
+  voxhost::Ledger::TurnOff();
 }
 
 } // namespace

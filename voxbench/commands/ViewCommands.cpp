@@ -86,7 +86,7 @@ CommandDescription ShowCommand::Describe() const
           "Bring features into sight",
           "Without an option the no-show status is taken away. With --graph or --3d the feature becomes visible in\n"
           "the tree or in the 3D view: the fathers that it stands under are shown there, and a redraw is requested.\n"
-          "A deck is not written: what would be asked of the views is told.",
+          "FILE is never written, since visibility is not stored with a document: what is asked of the views is told.",
           {{"voxbench show bracket.inp FIX", "take the no-show status from the feature FIX"},
            {"voxbench show bracket.inp 'Analysis model/Loads/*' --3d", "make all loads visible in 3D"},
            {"voxbench show bracket.inp FIX --graph --3d --json", "both views; for a program"}},
@@ -99,7 +99,7 @@ CommandDescription HideCommand::Describe() const
           "Put features out of sight",
           "Without an option the features get the no-show status. With --graph or --3d they become invisible in the\n"
           "tree or in the 3D view, and a redraw is requested.\n"
-          "A deck is not written: what would be asked of the views is told.",
+          "FILE is never written, since visibility is not stored with a document: what is asked of the views is told.",
           {{"voxbench hide bracket.inp FIX", "give the feature FIX the no-show status"},
            {"voxbench hide bracket.inp 'Analysis model/Loads/*' --3d", "make all loads invisible in 3D"},
            {"voxbench hide bracket.inp FIX --graph --3d --json", "both views; for a program"}},
