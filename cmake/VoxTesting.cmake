@@ -58,5 +58,5 @@ function(vox_discover_cases name filter)
     TEST_FILTER ${filter}
     DISCOVERY_TIMEOUT 120
     PROPERTIES ${labels} ENVIRONMENT "VOX_DECKS=${VOX_DECKS}"
-               ENVIRONMENT_MODIFICATION "LSAN_OPTIONS=set:suppressions=${PROJECT_SOURCE_DIR}/tests/leaks.supp")
+               ENVIRONMENT_MODIFICATION "LSAN_OPTIONS=set:suppressions=${PROJECT_SOURCE_DIR}/tests/adaptors/deliberate_leaks.supp:print_suppressions=0")
 endfunction()
