@@ -3,8 +3,10 @@
 #include "DocumentText.h"
 #include "RunProgram.h"
 #include "voxbench/store/DocumentFile.h"
+#include "voxbench/store/DocumentTables.h"
 
 #include <filesystem>
+#include <fmt/format.h>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <sqlite3.h>
@@ -116,6 +118,30 @@ TEST_F(RefusedFile, AValueThatSomebodyChangedIsNoticed)
     std::ofstream(file, std::ios::binary) << bytes;
     Execute(change);
     EXPECT_THAT(Refusal(voxtest::ReadText(file)), HasSubstr("damaged: ")) << change;
+  }
+}
+
+// The sums are right, as in a file that was made so.
+TEST_F(RefusedFile, AFeatureThatStandsBelowItselfIsDamage)
+{
+  LoadedModel model;
+  ASSERT_EQ(voxbench::ReadDocumentFile(file, model, {}), "");
+  const std::uint32_t root = model.Root().Identifier();
+  const std::uint32_t child = LoadedModel::ChildrenOf(model.Root()).front()->Identifier();
+  ASSERT_LT(root, 256u);
+  Execute(fmt::format("UPDATE value SET value = x'{:02x}000000' WHERE feature = {} AND attribute IN (SELECT id FROM "
+                      "attribute WHERE name = 'SonsList')",
+                      root, child));
+  voxbench::Database database(file, voxbench::Database::Mode::kRead);
+  voxbench::Checksum sum;
+  try
+  {
+    voxbench::ReadDocument(database, sum, {});
+    FAIL() << "the circle was taken over";
+  }
+  catch (const voxbench::Damaged& damage)
+  {
+    EXPECT_THAT(damage.what(), HasSubstr("stands below itself"));
   }
 }
 

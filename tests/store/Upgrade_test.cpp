@@ -173,6 +173,8 @@ TEST_F(UpgradeCommand, CarriesOverWhatIsNoAttribute)
       {
         Feature& restraint = *ioModel.MembersOf("RestraintSet").at(0);
         restraint.SetActive(false);
+        restraint.SetSubscribed(true);
+        restraint.SetExplicitState(7);
         restraint.SetIdentifyingString(std::string("held"));
         restraint.SetPhysicalType("OTHER_RESTRAINT");
         ioModel.Document().ShownViews().Show(&restraint, voxhost::Views::kIn3D);
@@ -182,6 +184,8 @@ TEST_F(UpgradeCommand, CarriesOverWhatIsNoAttribute)
   ASSERT_EQ(voxbench::ReadDocumentFile(file, model, {}), "");
   const Feature& restraint = *model.MembersOf("RestraintSet").at(0);
   EXPECT_FALSE(restraint.IsActive());
+  EXPECT_TRUE(restraint.IsSubscribed());
+  EXPECT_EQ(restraint.ExplicitState(), 7);
   EXPECT_TRUE(restraint.IdentifyingString() == "held");
   EXPECT_EQ(restraint.PhysicalType(), "OTHER_RESTRAINT");
   EXPECT_TRUE(model.Document().ShownViews().IsShown(&restraint, voxhost::Views::kIn3D));
@@ -210,6 +214,29 @@ TEST_F(UpgradeCommand, CarriesALocalValueOverThatDiffersFromBothStartUps)
   LoadedModel model;
   ASSERT_EQ(voxbench::ReadDocumentFile(file, model, {}), "");
   EXPECT_EQ(model.MembersOf("RestraintSet").at(0)->Real("Penalty"), 1e6);
+}
+
+TEST_F(UpgradeCommand, LeavesEverythingUpToDateThatWasSoBefore)
+{
+  RunUpgrade({"--write"});
+  LoadedModel model;
+  ASSERT_EQ(voxbench::ReadDocumentFile(file, model, {}), "");
+  for (const Feature* const feature : model.Document().AllFeatures())
+    EXPECT_FALSE(feature->IsOutOfDate()) << LoadedModel::PathOf(*feature);
+}
+
+TEST_F(UpgradeCommand, CountsTheKindsOfALayeredComponentAnew)
+{
+  TakeRelease(3);
+  ChangeDocument(
+      [](LoadedModel& ioModel)
+      {
+        Feature& plies = *ioModel.MembersOf("PropertySet").at(0)->Features("SonsList").front();
+        plies.Set("ValuesDim", std::int32_t{1});
+      });
+  EXPECT_EQ(OfKind(UpgradeJson(), "layers"), Lines{"Layered plate/Properties/Shell section on SKIN/Plies: ValuesDim"});
+  EXPECT_EQ(RunUpgrade({"--write"}).code, 0);
+  EXPECT_EQ(RunUpgrade().code, 0);
 }
 
 TEST_F(UpgradeCommand, NamesWhatStaysStuckAndLeavesTheFileAlone)
