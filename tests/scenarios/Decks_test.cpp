@@ -155,15 +155,18 @@ TEST_F(AllDecksSlow, AxesOwnersChoicesConnectionsAndExpressionsOfEachAreTold)
   }
 }
 
-TEST_F(AllDecksSlow, ADocumentOfEachTellsWhatTheDeckTells)
+//! Imports each deck that is small enough, lets iPrepare have the document, and compares what it tells with the deck.
+template <class Prepare>
+void CompareDocuments(const std::vector<std::string>& iDecks, const char* iRelease, Prepare iPrepare)
 {
   constexpr std::uintmax_t kLargest = 1000000;
-  const std::string document = voxtest::TemporaryFile("deck.voxdoc", "");
-  for (const std::string& deck : decks)
+  const std::string document = voxtest::TemporaryFile("documents/deck.voxdoc", "");
+  for (const std::string& deck : iDecks)
   {
     if (std::filesystem::file_size(deck) > kLargest ||
-        voxtest::RunInProcess({"import", deck, "-o", document, "--force"}).code != 0)
+        voxtest::RunInProcess({"import", deck, "-o", document, "--force", "--catalogue", iRelease}).code != 0)
       continue;
+    iPrepare(document, deck);
     for (const char* const command : {"tree", "groups", "check", "axes", "params", "connections"})
     {
       const auto ofDeck = voxtest::RunInProcess({command, deck, "--json"});
@@ -172,6 +175,27 @@ TEST_F(AllDecksSlow, ADocumentOfEachTellsWhatTheDeckTells)
       EXPECT_TRUE(ofDocument.out == ofDeck.out) << command << " " << deck;
     }
   }
+}
+
+TEST_F(AllDecksSlow, ADocumentOfEachTellsWhatTheDeckTells)
+{
+  CompareDocuments(decks, "3", [](const std::string&, const std::string&) {});
+}
+
+TEST_F(AllDecksSlow, ADocumentOfTheFirstReleaseTellsWhatTheDeckTellsOnceItIsUpgraded)
+{
+  CompareDocuments(
+      decks, "1",
+      [](const std::string& iDocument, const std::string& iDeck)
+      {
+        const json plan = json::parse(voxtest::RunInProcess({"upgrade", iDocument, "--json"}).out);
+        const json done = json::parse(voxtest::RunInProcess({"upgrade", iDocument, "--write", "--json"}).out);
+        EXPECT_EQ(done["decisions"], plan["decisions"]) << iDeck;
+        EXPECT_EQ(done["counts"]["stuck"], 0) << iDeck;
+        EXPECT_EQ(voxtest::RunInProcess({"upgrade", iDocument, "--write"}).code, 0) << iDeck;
+        if (done["backup"].is_string())
+          std::filesystem::remove(done["backup"].get<std::string>());
+      });
 }
 
 TEST_F(AllDecksSlow, TheCheckOfAllFindsWhatTheGoldenListCounts)

@@ -113,7 +113,7 @@ TEST_F(RefusedFile, AValueThatSomebodyChangedIsNoticed)
        {"UPDATE value SET value = 7 WHERE attribute IN (SELECT id FROM attribute WHERE name = 'Step')",
         "UPDATE object SET name = 'other' WHERE tag = 5", "UPDATE record SET kind = 'load' WHERE kind = 'restraint'",
         "UPDATE mesh SET data = zeroblob(length(data)) WHERE array = 'coordinates'",
-        "UPDATE meta SET value = 3 WHERE key = 'tags'"})
+        "UPDATE meta SET value = 3 WHERE key = 'tags'", "UPDATE meta SET value = 2 WHERE key = 'catalogue'"})
   {
     std::ofstream(file, std::ios::binary) << bytes;
     Execute(change);
