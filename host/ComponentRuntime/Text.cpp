@@ -2,8 +2,8 @@
 #include "ComponentRuntime/VOXString.h"
 #include "ComponentRuntime/VOXUnicodeString.h"
 
+#include <algorithm>
 #include <cstdlib>
-#include <cstring>
 #include <new>
 #include <string>
 #include <string_view>
@@ -27,10 +27,8 @@ struct VOXTextRep
     if (memory == nullptr)
       throw std::bad_alloc();
     VOXTextRep* const rep = new (memory) VOXTextRep{1, length};
-    std::memcpy(rep->Characters(), iFirst.data(), iFirst.size());
-    if (!iSecond.empty())
-      std::memcpy(rep->Characters() + iFirst.size(), iSecond.data(), iSecond.size());
-    rep->Characters()[length] = '\0';
+    char* const end = std::copy(iFirst.begin(), iFirst.end(), rep->Characters()); // either may be empty, without memory
+    *std::copy(iSecond.begin(), iSecond.end(), end) = '\0';
     return rep;
   }
 

@@ -240,3 +240,11 @@ TEST(ValueLists, TakeElementsOutAndMoveTheOthersUp)
 }
 
 } // namespace
+
+TEST(UnicodeString, IsJoinedWithNothingOnEitherSide)
+{
+  const VOXUnicodeString nothing;
+  EXPECT_EQ(nothing + "text", VOXUnicodeString("text"));
+  EXPECT_EQ(VOXUnicodeString("text") + "", VOXUnicodeString("text"));
+  EXPECT_EQ(nothing + "", nothing);
+}
