@@ -56,7 +56,8 @@ TEST(ConnectionsCommand, ATieStandsOnItsDependentSurfaceAndThenOnTheIndependentO
 
 TEST(ConnectionsCommand, EachSideIsDesignedByTheMeshPartOfItsDesigner)
 {
-  for (const json& side : ConnectionOf("TIE")["sides"])
+  const json tie = ConnectionOf("TIE");
+  for (const json& side : tie["sides"])
     EXPECT_EQ(NamesOf(side["designers"]), Names{"Mesh"});
 }
 
