@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <cstdint>
-#include <filesystem>
-#include <string>
-#include <vector>
+#include "PackedFile.h"
 
-struct gzFile_s;
+#include <vector>
 
 namespace voxbench::frd
 {
@@ -19,11 +16,6 @@ class ByteWindow
 public:
   static constexpr std::size_t kWindow = std::size_t{1} << 20;
   static constexpr std::size_t kPadding = 64;
-
-  ByteWindow() = default;
-  ByteWindow(const ByteWindow&) = delete;
-  ByteWindow& operator=(const ByteWindow&) = delete;
-  ~ByteWindow();
 
   //! @return "" when the file is open, else what is wrong with it.
   std::string Open(const std::filesystem::path& iPath);
@@ -39,23 +31,19 @@ public:
   //! Place of the cursor in the file; of a compressed one in its text.
   std::uint64_t Offset() const { return _Passed + _Start; }
 
-  const std::string& Failure() const { return _Failure; }
-  std::uint64_t BytesRead() const;
-  std::uint64_t BytesInAll() const { return _FileSize; }
+  const std::string& Failure() const { return _File.Failure(); }
+  std::uint64_t BytesRead() const { return _File.BytesRead(); }
+  std::uint64_t BytesInAll() const { return _File.BytesInAll(); }
 
 private:
   bool Refill(std::size_t iCount);
-  std::int64_t ReadInto(char* iTarget, std::size_t iRoom);
 
-  int _Descriptor = -1;
-  gzFile_s* _Compression = nullptr;
+  PackedFile _File;
   std::vector<char> _Bytes;
   std::size_t _Start = 0;
   std::size_t _End = 0;
   std::uint64_t _Passed = 0; //!< bytes of the file before the window
-  std::uint64_t _FileSize = 0;
   bool _AtEnd = false;
-  std::string _Failure;
 };
 
 } // namespace voxbench::frd

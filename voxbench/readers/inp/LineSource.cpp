@@ -1,13 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LineSource.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#include <zlib.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 
 namespace voxbench::inp
@@ -18,72 +12,11 @@ namespace
 constexpr std::size_t kLongestLine = std::size_t{1} << 26;
 }
 
-LineSource::~LineSource()
-{
-  if (_Compression != nullptr)
-    gzclose(_Compression); // closes the descriptor too
-  else if (_Descriptor >= 0)
-    close(_Descriptor);
-}
-
-std::string LineSource::Open(const std::filesystem::path& iPath)
-{
-  _Descriptor = open(iPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (_Descriptor < 0)
-    return std::strerror(errno);
-  struct stat facts = {};
-  if (fstat(_Descriptor, &facts) != 0)
-    return std::strerror(errno);
-  if (S_ISDIR(facts.st_mode))
-    return "Is a directory";
-  if (!S_ISREG(facts.st_mode))
-    return "Not a regular file";
-  _FileSize = static_cast<std::uint64_t>(facts.st_size);
-
-  unsigned char magic[2] = {};
-  _Compressed = pread(_Descriptor, magic, 2, 0) == 2 && magic[0] == 0x1f && magic[1] == 0x8b;
-  if (_Compressed)
-  {
-    _Compression = gzdopen(_Descriptor, "rb");
-    if (_Compression == nullptr)
-      return "No memory to unpack it";
-    gzbuffer(_Compression, 1u << 17);
-  }
-  else
-    posix_fadvise(_Descriptor, 0, 0, POSIX_FADV_SEQUENTIAL);
-  return {};
-}
-
-std::uint64_t LineSource::BytesRead() const
-{
-  if (!_Compressed)
-    return _TextRead;
-  const z_off_t offset = gzoffset(_Compression);
-  return offset < 0 ? 0 : static_cast<std::uint64_t>(offset);
-}
-
 std::uint64_t LineSource::TextAhead() const
 {
   const auto inWindow = static_cast<std::uint64_t>(_Window.data() + _Filled - _Cursor);
-  const std::uint64_t onDisk = _FileSize - std::min(_FileSize, BytesRead());
-  return inWindow + onDisk * (_Compressed ? 5 : 1);
-}
-
-std::int64_t LineSource::ReadInto(char* iTarget, std::size_t iRoom)
-{
-  if (!_Compressed)
-  {
-    const ssize_t got = read(_Descriptor, iTarget, iRoom);
-    if (got < 0)
-      _Failure = std::string("reading stopped: ") + std::strerror(errno);
-    return got;
-  }
-  const int got = gzread(_Compression, iTarget, static_cast<unsigned>(std::min(iRoom, std::size_t{1} << 30)));
-  int code = Z_OK;
-  const char* const text = gzerror(_Compression, &code);
-  if (got < 0 || code == Z_BUF_ERROR)
-    _Failure = std::string("the compressed data is damaged or cut off (") + text + ")";
-  return _Failure.empty() ? got : -1;
+  const std::uint64_t onDisk = BytesInAll() - std::min(BytesInAll(), BytesRead());
+  return inWindow + onDisk * (IsCompressed() ? 5 : 1);
 }
 
 void LineSource::Fill(std::size_t iRoom)
@@ -91,7 +24,7 @@ void LineSource::Fill(std::size_t iRoom)
   std::size_t wanted = iRoom;
   while (wanted > 0 && !_AtEnd)
   {
-    const std::int64_t got = ReadInto(_Window.data() + _Filled, wanted);
+    const std::int64_t got = _File.Read(_Window.data() + _Filled, wanted);
     if (got <= 0)
     {
       _AtEnd = true;
@@ -118,7 +51,7 @@ bool LineSource::Refill()
     const std::size_t room = std::max(kWindow, _Filled); // a line longer than the window doubles it
     if (_Filled > kLongestLine)
     {
-      _Failure = "a line of more than 64 MiB";
+      _TooLong = "a line of more than 64 MiB";
       _AtEnd = true;
       return false;
     }

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <cstdint>
-#include <filesystem>
-#include <memory>
-#include <string>
+#include "PackedFile.h"
+
 #include <string_view>
 #include <vector>
-
-struct gzFile_s;
 
 namespace voxbench::inp
 {
@@ -24,13 +20,8 @@ public:
   static constexpr std::size_t kWindow = std::size_t{1} << 19;
   static constexpr std::size_t kPadding = 128;
 
-  LineSource() = default;
-  LineSource(const LineSource&) = delete;
-  LineSource& operator=(const LineSource&) = delete;
-  ~LineSource();
-
   //! @return "" when the file is open, else what is wrong with it.
-  std::string Open(const std::filesystem::path& iPath);
+  std::string Open(const std::filesystem::path& iPath) { return _File.Open(iPath); }
 
   //! Makes sure that a line stands at the cursor. @return false at the end of the file, or when `Failure` is not "".
   bool Ready() { return _Cursor < _Limit || Refill(); }
@@ -53,31 +44,27 @@ public:
   std::string_view TakeLine();
 
   std::int32_t Line() const { return _Line; } //!< number of the line at the cursor, from 1
-  const std::string& Failure() const { return _Failure; }
-  std::uint64_t BytesRead() const;
-  std::uint64_t BytesInAll() const { return _FileSize; }
-  bool IsCompressed() const { return _Compressed; }
+  const std::string& Failure() const { return _TooLong.empty() ? _File.Failure() : _TooLong; }
+  std::uint64_t BytesRead() const { return _File.BytesRead(); }
+  std::uint64_t BytesInAll() const { return _File.BytesInAll(); }
+  bool IsCompressed() const { return _File.IsPacked(); }
 
   //! A guess, never too small for plain files, of the bytes of text still to come.
   std::uint64_t TextAhead() const;
 
 private:
-  std::int64_t ReadInto(char* iTarget, std::size_t iRoom);
   void Fill(std::size_t iRoom);
 
-  int _Descriptor = -1;
-  gzFile_s* _Compression = nullptr;
+  PackedFile _File;
   std::vector<char> _Window;
   std::size_t _Filled = 0; //!< bytes of text in the window, beyond whole lines too
   const char* _Cursor = nullptr;
   const char* _Limit = nullptr;
   std::int32_t _Line = 1;
-  std::uint64_t _FileSize = 0;
   std::uint64_t _TextRead = 0;
-  bool _Compressed = false;
   bool _AtEnd = false;
   bool _OnlyCarriageReturns = false;
-  std::string _Failure;
+  std::string _TooLong; //!< what is wrong with a line that no window holds
 };
 
 } // namespace voxbench::inp
