@@ -17,12 +17,12 @@ namespace
 {
 
 constexpr const char* kLast = "last";
-constexpr const char* kAll = "all";
+constexpr const char* kAllIncrements = "all";
 
 //! A version as people name it: a number, an i behind it for the imaginary part; or last, or all.
 std::string CheckedVersion(std::string iText)
 {
-  if (iText == kLast || iText == kAll)
+  if (iText == kLast || iText == kAllIncrements)
     return iText;
   const std::string digits = iText.substr(0, iText.size() - (iText.ends_with('i') ? 1 : 0));
   const bool isNumber = !digits.empty() && digits.find_first_not_of("0123456789") == std::string::npos;
@@ -252,7 +252,7 @@ ResultsCommand::Chosen(const ResultTables& iTables, const std::vector<ResultDefi
     const std::size_t before = chosen.size();
     for (const ResultDefinition& definition : ofType)
       if (definition.position == position.c_str() &&
-          (asked == kAll ||
+          (asked == kAllIncrements ||
            ResultTables::NameOf(definition.version) == (asked == kLast ? std::to_string(last) : asked)))
         chosen.push_back(definition);
     if (chosen.size() == before)
