@@ -1,9 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Packages from outside. The contracts and the library need none.
-
-if(VOX_HOST_PACKAGE)
-  find_package(${VOX_HOST_PACKAGE} CONFIG REQUIRED)
-endif()
+# Packages from outside. The contracts and the library need none, but for a host from outside (VoxHost.cmake).
 
 if(VOX_BUILD_VOXBENCH)
   find_package(CLI11 CONFIG REQUIRED)

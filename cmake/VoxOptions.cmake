@@ -10,6 +10,7 @@ option(VOX_WERROR "Treat compiler warnings as errors" OFF)
 set(VOX_SANITIZE "" CACHE STRING "Sanitizers for the whole build, for example address;undefined")
 set(VOX_HOST "vox::host" CACHE STRING "Target that supplies the host's symbols: everything links this one")
 set(VOX_HOST_PACKAGE "" CACHE STRING "Package that defines VOX_HOST; empty when the target is in this tree")
+set(VOX_TEST_HOST "" CACHE FILEPATH "Of another host: source that implements tests/anyhost/TestHost.h for it")
 
 set(decksOfThePackage /usr/share/doc/calculix-ccx-test/examples/test)
 set(VOX_DECKS ${decksOfThePackage} CACHE PATH "Folder of the real decks (.inp, .inp.gz) that tests walk")

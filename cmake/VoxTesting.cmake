@@ -21,6 +21,7 @@ function(vox_add_test name)
 
   add_executable(${name} ${test_SOURCES})
   target_link_libraries(${name} PRIVATE ${test_LIBS} GTest::gmock GTest::gtest_main vox::warnings)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_compile_options(${name} PRIVATE -O0) # optimised and sanitized, a file of cases takes three times as long to compile
   vox_give_test_paths(${name})
 

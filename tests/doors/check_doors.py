@@ -19,6 +19,9 @@ DOORS = {
     "voxbench/readers": set(),
     "voxbench": {"contracts", "VOXAnalysisResources", "host", "voxbench/readers"},
     "tests": {"contracts", "VOXAnalysisResources", "host", "voxbench/readers", "voxbench"},
+    "tests/anyhost": {"contracts", "VOXAnalysisResources"},
+    "tests/anyhost/reference": {"contracts", "host", "tests/anyhost"},
+    "tests/install/otherhost": {"contracts", "tests/anyhost"},
     "benchmarks": {"contracts", "VOXAnalysisResources", "host", "voxbench/readers", "voxbench", "tests"},
 }
 
