@@ -62,4 +62,12 @@ std::string QuantityMeant(std::string iText)
   return known == std::end(kKnown) ? iText : std::string(known->name);
 }
 
+std::vector<std::string> KnownQuantities()
+{
+  std::vector<std::string> names;
+  for (const KnownQuantity& known : kKnown)
+    names.emplace_back(known.name);
+  return names;
+}
+
 } // namespace voxbench

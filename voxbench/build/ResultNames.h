@@ -2,6 +2,7 @@
 #pragma once
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace voxbench
 {
@@ -12,5 +13,8 @@ std::string TitleOf(std::string_view iName);
 //! The quantity of a result file that a person means: its name in any letters, or the label that a deck asks for it
 //! with, such as U for DISP.
 std::string QuantityMeant(std::string iText);
+
+//! The quantities that have a title.
+std::vector<std::string> KnownQuantities();
 
 } // namespace voxbench

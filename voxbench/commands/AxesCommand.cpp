@@ -78,7 +78,8 @@ CommandDescription AxesCommand::Describe() const
           {{kExitDone, "the axes were listed"},
            {kExitSomeFailed, "the output cannot be written"},
            {kExitWrongUsage, "wrong usage"},
-           {kExitUnreadable, "FILE cannot be read"}}};
+           {kExitUnreadable, "FILE cannot be read"}},
+          {ModelValues()}};
 }
 
 void AxesCommand::DeclareOptions(CLI::App& ioParser)

@@ -22,7 +22,8 @@ CommandDescription CheckCommand::Describe() const
           {{kExitDone, "no findings"},
            {kExitSomeFailed, "findings, or the output cannot be written"},
            {kExitWrongUsage, "wrong usage"},
-           {kExitUnreadable, "FILE cannot be read"}}};
+           {kExitUnreadable, "FILE cannot be read"}},
+          {ModelValues()}};
 }
 
 void CheckCommand::DeclareOptions(CLI::App& ioParser)

@@ -28,12 +28,20 @@ struct CommandDescription
     int code;
     std::string meaning;
   };
+  //! What is known of an argument's values: completions offer it.
+  struct Values
+  {
+    std::string argument;             //!< "--kind", or "FILE"
+    std::vector<std::string> words;   //!< the values themselves, where they are few
+    std::vector<std::string> endings; //!< of file names, ".inp", where the argument is a file
+  };
 
   std::string name;
   std::string summary; //!< one line
   std::string details; //!< a paragraph or two
   std::vector<Example> examples;
   std::vector<Exit> exits;
+  std::vector<Values> values = {};
 };
 
 //! A subcommand of the program. Made anew for every run; its options are members.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/AxesCommand.h"
 #include "voxbench/commands/CheckCommand.h"
+#include "voxbench/commands/CompletionCommand.h"
 #include "voxbench/commands/ConnectionsCommand.h"
 #include "voxbench/commands/ExpressionsCommand.h"
 #include "voxbench/commands/GroupsCommand.h"
@@ -29,9 +30,10 @@ std::unique_ptr<Command> Make()
 const std::vector<CommandFactory>& CommandTable()
 {
   static const std::vector<CommandFactory> table{
-      Make<InfoCommand>,   Make<TreeCommand>,    Make<GroupsCommand>,      Make<CheckCommand>,  Make<AxesCommand>,
-      Make<OwnerCommand>,  Make<ParamsCommand>,  Make<ConnectionsCommand>, Make<ShowCommand>,   Make<HideCommand>,
-      Make<ImportCommand>, Make<ResultsCommand>, Make<ExpressionsCommand>, Make<UpgradeCommand>};
+      Make<InfoCommand>,        Make<TreeCommand>,    Make<GroupsCommand>,    Make<CheckCommand>,
+      Make<AxesCommand>,        Make<OwnerCommand>,   Make<ParamsCommand>,    Make<ConnectionsCommand>,
+      Make<ShowCommand>,        Make<HideCommand>,    Make<ImportCommand>,    Make<ResultsCommand>,
+      Make<ExpressionsCommand>, Make<UpgradeCommand>, Make<CompletionCommand>};
   return table;
 }
 

@@ -79,7 +79,8 @@ CommandDescription ConnectionsCommand::Describe() const
           {{kExitDone, "all connections were listed"},
            {kExitSomeFailed, "some connection could not be asked, or the output cannot be written"},
            {kExitWrongUsage, "wrong usage"},
-           {kExitUnreadable, "FILE cannot be read"}}};
+           {kExitUnreadable, "FILE cannot be read"}},
+          {ModelValues()}};
 }
 
 void ConnectionsCommand::DeclareOptions(CLI::App& ioParser)

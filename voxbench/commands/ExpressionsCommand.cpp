@@ -39,7 +39,8 @@ CommandDescription ExpressionsCommand::Describe() const
           {{kExitDone, "all that was asked for was done"},
            {kExitSomeFailed, "some feature failed, an expression is not there, or the output cannot be written"},
            {kExitWrongUsage, "wrong usage"},
-           {kExitUnreadable, "FILE cannot be read"}}};
+           {kExitUnreadable, "FILE cannot be read"}},
+          {ModelValues(), {"--delete", {kAll}, {}}}};
 }
 
 void ExpressionsCommand::DeclareOptions(CLI::App& ioParser)

@@ -25,6 +25,14 @@ std::string Keyword(std::string iText)
   throw CLI::ValidationError("needs NODE, EDGE, FACE or ELEMENT, not " + iText);
 }
 
+std::vector<std::string> Keywords()
+{
+  std::vector<std::string> keywords;
+  for (const GroupKind* const kind : kGroupKinds)
+    keywords.emplace_back(kind->keyword);
+  return keywords;
+}
+
 } // namespace
 
 CommandDescription GroupsCommand::Describe() const
@@ -42,7 +50,8 @@ CommandDescription GroupsCommand::Describe() const
           {{kExitDone, "all groups were listed"},
            {kExitSomeFailed, "some group failed, none has the NAME given, or the output cannot be written"},
            {kExitWrongUsage, "wrong usage"},
-           {kExitUnreadable, "FILE cannot be read"}}};
+           {kExitUnreadable, "FILE cannot be read"}},
+          {ModelValues(), {"--kind", Keywords(), {}}}};
 }
 
 void GroupsCommand::DeclareOptions(CLI::App& ioParser)

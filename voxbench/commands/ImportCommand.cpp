@@ -10,6 +10,18 @@
 
 namespace voxbench
 {
+namespace
+{
+
+std::vector<std::string> Releases()
+{
+  std::vector<std::string> releases;
+  for (int release = 1; release <= kNewestRelease; ++release)
+    releases.push_back(std::to_string(release));
+  return releases;
+}
+
+} // namespace
 
 CommandDescription ImportCommand::Describe() const
 {
@@ -23,7 +35,8 @@ CommandDescription ImportCommand::Describe() const
            {kExitSomeFailed, "the output cannot be written"},
            {kExitWrongUsage, "wrong usage"},
            {kExitUnreadable, "FILE cannot be read"},
-           {kExitNotWritten, "DOCUMENT cannot be written, or is there already: it is as it was"}}};
+           {kExitNotWritten, "DOCUMENT cannot be written, or is there already: it is as it was"}},
+          {DeckValues(), DocumentValues("--output"), {"--catalogue", Releases(), {}}}};
 }
 
 void ImportCommand::DeclareOptions(CLI::App& ioParser)

@@ -35,7 +35,8 @@ CommandDescription InfoCommand::Describe() const
           {{kExitDone, "the file was read; it may have findings"},
            {kExitSomeFailed, "the output cannot be written"},
            {kExitWrongUsage, "wrong usage"},
-           {kExitUnreadable, "FILE cannot be read"}}};
+           {kExitUnreadable, "FILE cannot be read"}},
+          {ModelValues()}};
 }
 
 void InfoCommand::DeclareOptions(CLI::App& ioParser)

@@ -51,6 +51,23 @@ int OpenDocumentRecords(const std::string& iFile, Console& ioConsole, NeutralMod
 
 } // namespace
 
+CommandDescription::Values DeckValues(std::string iArgument)
+{
+  return {std::move(iArgument), {}, {".inp", ".inp.gz"}};
+}
+
+CommandDescription::Values DocumentValues(std::string iArgument)
+{
+  return {std::move(iArgument), {}, {".voxdoc"}};
+}
+
+CommandDescription::Values ModelValues()
+{
+  CommandDescription::Values values = DeckValues();
+  values.endings.emplace_back(".voxdoc");
+  return values;
+}
+
 void FileOptions::Declare(CLI::App& ioParser)
 {
   ioParser.add_option("FILE", file, "The model: a keyword deck (.inp, .inp.gz) or a document (.voxdoc)")

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include "voxbench/build/LoadedModel.h"
+#include "voxbench/commands/Command.h"
 #include "voxbench/commands/Console.h"
 #include "voxbench/report/Output.h"
 
@@ -13,6 +14,15 @@ class App;
 
 namespace voxbench
 {
+
+//! An argument that is a deck; FILE unless it has another name.
+CommandDescription::Values DeckValues(std::string iArgument = "FILE");
+
+//! An argument that is a document.
+CommandDescription::Values DocumentValues(std::string iArgument = "FILE");
+
+//! FILE where it is a deck or a document.
+CommandDescription::Values ModelValues();
 
 //! What every subcommand on one file is told.
 struct FileOptions

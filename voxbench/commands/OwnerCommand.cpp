@@ -64,7 +64,8 @@ CommandDescription OwnerCommand::Describe() const
           {{kExitDone, "each object has an owner"},
            {kExitSomeFailed, "some object has none or does not exist, or the output cannot be written"},
            {kExitWrongUsage, "wrong usage"},
-           {kExitUnreadable, "FILE cannot be read"}}};
+           {kExitUnreadable, "FILE cannot be read"}},
+          {ModelValues()}};
 }
 
 void OwnerCommand::DeclareOptions(CLI::App& ioParser)

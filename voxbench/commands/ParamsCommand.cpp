@@ -46,7 +46,8 @@ CommandDescription ParamsCommand::Describe() const
       {{kExitDone, "all choices were shown"},
        {kExitSomeFailed, "a choice failed, no feature has the name given, or the output cannot be written"},
        {kExitWrongUsage, "wrong usage"},
-       {kExitUnreadable, "FILE cannot be read"}}};
+       {kExitUnreadable, "FILE cannot be read"}},
+      {ModelValues()}};
 }
 
 void ParamsCommand::DeclareOptions(CLI::App& ioParser)

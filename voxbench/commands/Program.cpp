@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/Program.h"
-#include "voxbench/commands/Command.h"
+#include "voxbench/commands/ProgramParser.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <fmt/format.h>
 #include <new>
@@ -12,74 +11,8 @@ namespace voxbench
 namespace
 {
 
-constexpr const char* kSummary = "Opens finite-element models as analysis documents and shows what is in them.";
-
-//! What CLI11 does not print of itself: details, examples and exit codes.
-std::string Footer(const CommandDescription& iCommand)
-{
-  std::string text = "Examples:\n";
-  for (const auto& example : iCommand.examples)
-    text += fmt::format("  {}\n      {}\n", example.line, example.meaning);
-  text += "\nExit codes:\n";
-  for (const auto& exit : iCommand.exits)
-    text += fmt::format("  {}  {}\n", exit.code, exit.meaning);
-  return text;
-}
-
-struct Program
-{
-  CLI::App parser{kSummary, "voxbench"};
-  std::vector<std::unique_ptr<Command>> commands;
-  std::vector<CLI::App*> parsers; //!< of the commands, in their order
-
-  Program()
-  {
-    parser.set_version_flag("--version", "voxbench " VOXBENCH_VERSION);
-    parser.set_help_flag("-h,--help", "Print this help and exit");
-    parser.require_subcommand(1);
-    parser.get_formatter()->column_width(34);
-    for (const CommandFactory make : CommandTable())
-      Add(make());
-    parser.footer("voxbench COMMAND --help tells more about a command, with examples.\n");
-  }
-
-  void Add(std::unique_ptr<Command> iCommand)
-  {
-    const CommandDescription description = iCommand->Describe();
-    CLI::App* const sub = parser.add_subcommand(description.name, description.summary);
-    sub->footer(Footer(description));
-    sub->set_help_flag("-h,--help", "Print this help and exit");
-    iCommand->DeclareOptions(*sub);
-    commands.push_back(std::move(iCommand));
-    parsers.push_back(sub);
-  }
-
-  Command* Chosen() const
-  {
-    for (std::size_t place = 0; place < parsers.size(); ++place)
-      if (parsers[place]->parsed())
-        return commands[place].get();
-    return nullptr;
-  }
-
-  //! The help of the program, or of the subcommand that was named.
-  std::string Help() const
-  {
-    for (std::size_t place = 0; place < parsers.size(); ++place)
-      if (parsers[place]->parsed())
-        return HelpOf(*parsers[place], commands[place]->Describe());
-    return parser.help();
-  }
-
-  std::string HelpOf(CLI::App& ioParser, const CommandDescription& iDescription) const
-  {
-    ioParser.description(iDescription.summary + "\n\n" + iDescription.details + "\n");
-    return ioParser.help("voxbench");
-  }
-};
-
 //! A first argument that is neither an option nor a command; null when there is none.
-const std::string* UnknownCommand(const std::vector<std::string>& iArguments, const Program& iProgram)
+const std::string* UnknownCommand(const std::vector<std::string>& iArguments, const ProgramParser& iProgram)
 {
   if (iArguments.empty() || iArguments.front().starts_with('-'))
     return nullptr;
@@ -88,7 +21,7 @@ const std::string* UnknownCommand(const std::vector<std::string>& iArguments, co
   return known ? nullptr : &iArguments.front();
 }
 
-std::string NamesOf(const Program& iProgram)
+std::string NamesOf(const ProgramParser& iProgram)
 {
   std::string names;
   for (const CLI::App* const parser : iProgram.parsers)
@@ -106,7 +39,7 @@ int RunProgram(const std::vector<std::string>& iArguments, Console& ioConsole)
     asked.push_back("--help");
     return RunProgram(asked, ioConsole);
   }
-  Program program;
+  ProgramParser program;
   if (iArguments.empty())
   {
     ioConsole.errors << program.Help();

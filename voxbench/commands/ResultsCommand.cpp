@@ -83,7 +83,11 @@ CommandDescription ResultsCommand::Describe() const
            {kExitSomeFailed, "some type, version, position or group is not there, or failed, or the output cannot be "
                              "written"},
            {kExitWrongUsage, "wrong usage"},
-           {kExitUnreadable, "FILE, or the deck given with --deck, cannot be read"}}};
+           {kExitUnreadable, "FILE, or the deck given with --deck, cannot be read"}},
+          {{"FILE", {}, {".frd", ".frd.gz"}},
+           DeckValues("--deck"),
+           {"--type", KnownQuantities(), {}},
+           {"--version", {kLast, kAllIncrements}, {}}}};
 }
 
 void ResultsCommand::DeclareOptions(CLI::App& ioParser)

@@ -62,7 +62,8 @@ CommandDescription TreeCommand::Describe() const
       {{kExitDone, "the tree was shown"},
        {kExitSomeFailed, "the output cannot be written"},
        {kExitWrongUsage, "wrong usage"},
-       {kExitUnreadable, "FILE cannot be read"}}};
+       {kExitUnreadable, "FILE cannot be read"}},
+      {ModelValues()}};
 }
 
 void TreeCommand::DeclareOptions(CLI::App& ioParser)

@@ -28,7 +28,8 @@ CommandDescription UpgradeCommand::Describe() const
            {kExitSomeFailed, "there is something to do, or something was skipped or is stuck"},
            {kExitWrongUsage, "wrong usage"},
            {kExitUnreadable, "FILE cannot be read"},
-           {kExitNotWritten, "FILE cannot be written: it is as it was"}}};
+           {kExitNotWritten, "FILE cannot be written: it is as it was"}},
+          {DocumentValues()}};
 }
 
 void UpgradeCommand::DeclareOptions(CLI::App& ioParser)

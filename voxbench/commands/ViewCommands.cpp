@@ -90,7 +90,8 @@ CommandDescription ShowCommand::Describe() const
           {{"voxbench show bracket.inp FIX", "take the no-show status from the feature FIX"},
            {"voxbench show bracket.inp 'Analysis model/Loads/*' --3d", "make all loads visible in 3D"},
            {"voxbench show bracket.inp FIX --graph --3d --json", "both views; for a program"}},
-          ExitCodes()};
+          ExitCodes(),
+          {ModelValues()}};
 }
 
 CommandDescription HideCommand::Describe() const
@@ -103,7 +104,8 @@ CommandDescription HideCommand::Describe() const
           {{"voxbench hide bracket.inp FIX", "give the feature FIX the no-show status"},
            {"voxbench hide bracket.inp 'Analysis model/Loads/*' --3d", "make all loads invisible in 3D"},
            {"voxbench hide bracket.inp FIX --graph --3d --json", "both views; for a program"}},
-          ExitCodes()};
+          ExitCodes(),
+          {ModelValues()}};
 }
 
 } // namespace voxbench
