@@ -85,10 +85,10 @@ AnyHost::AnyHost() : _LiveBefore(LiveObjects())
   TakeReports();
 }
 
-void AnyHost::TearDown()
+AnyHost::~AnyHost()
 {
   world.reset();
-  EXPECT_EQ(LiveObjects(), _LiveBefore);
+  EXPECT_EQ(LiveObjects(), _LiveBefore + leftOver);
 }
 
 VOXBaseUnknown* AnyHost::New(const char* iType, const char* iName)

@@ -22,7 +22,7 @@ class AnyHost : public testing::Test
 {
 protected:
   AnyHost();
-  void TearDown() override;
+  ~AnyHost() override; // behind the members of the deriving class, which may hold references
 
   VOXBaseUnknown* New(const char* iType, const char* iName = "");
 
@@ -39,6 +39,7 @@ protected:
   void ExpectFirstReport(VOXSamErrorType iKind, const char* iText, const char* iClass);
 
   std::unique_ptr<World> world;
+  long leftOver = 0; // objects that an adaptor is known not to give back
 
 private:
   long _LiveBefore;
