@@ -18,12 +18,13 @@ public:
   //! 2. @return what this object's AllowDerivativeComputation answers, whatever the collector.
   bool IsDerivativeAvailable(const VOXAnalysisCharacCollector* iCollector) override;
 
-  //! 3. and 4. @return E_NOTIMPL.
+  //! 3. @return E_NOTIMPL.
   HRESULT ComputeParameterVariation(const VOXAnalysisCharacCollector* iCollector,
                                     VOXListValVOXBaseUnknown_var* iParameters) override;
+  //! 4. @return E_NOTIMPL.
   HRESULT SetParameterVariation(const VOXBaseUnknown_var& iParameter, double iVariation) override;
 
-  //! 5. @param oFirst, oSecond set to null. @return E_NOTIMPL.
+  //! 5. @param iCollector not looked at. @param oFirst, oSecond set to null. @return E_NOTIMPL.
   HRESULT GetCharacCollectorDerivatives(const VOXAnalysisCharacCollector* iCollector,
                                         const VOXAnalysisCharacCollector*& oFirst,
                                         const VOXAnalysisCharacCollector*& oSecond) override;

@@ -17,10 +17,11 @@ public:
   ~VOXEAnalysisGroup() override;
 
   //! 4. Whether the group serves a value kind and keyword, as operations 2 and 3 tell.
-  //! @param oIsGroupOf preset to 0. @return S_OK; the code of operation 2 or 3 when that failed, without a report.
+  //! @param iValue, iEntityType value kind and keyword. @param oIsGroupOf preset to 0. @return S_OK; the code of
+  //! operation 2 or 3 when that failed, without a report.
   HRESULT IsGroupOf(VOXSamValue iValue, VOXString iEntityType, unsigned char& oIsGroupOf) const override;
 
-  //! 5. The entities of one kind that the group gathers.
+  //! 5. The entities of one kind that the group gathers. @param iValue, iEntityType value kind and keyword.
   //! @param oCollector preset to null. On S_OK: one reference for the caller, or null when the group is empty.
   //! @return S_OK; E_FAIL after an error report.
   HRESULT GetContent(VOXSamValue iValue, VOXString iEntityType,

@@ -12,8 +12,9 @@ public:
   VOXEAnalysisVisibility();
   ~VOXEAnalysisVisibility() override;
 
-  //! Both copy visibility and no-show status.
+  //! Copies visibility and no-show status.
   VOXEAnalysisVisibility(const VOXEAnalysisVisibility& iOther);
+  //! Copies visibility and no-show status.
   VOXEAnalysisVisibility& operator=(const VOXEAnalysisVisibility& iOther);
 
   //! 1. Sets where the feature is visible. A view that is switched on shows the feature's fathers; then a redraw is

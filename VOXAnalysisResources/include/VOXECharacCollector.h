@@ -27,6 +27,7 @@ enum CollectorArchiveFlag : int
 class VOX_ANALYSIS_API VOXECharacCollector : public VOXBaseUnknown
 {
 public:
+  //! As the type of that name outside.
   using CollectorArchiveFlag = ::CollectorArchiveFlag;
 
   VOXECharacCollector();
@@ -34,28 +35,34 @@ public:
   VOXECharacCollector(const VOXECharacCollector&) = delete;
   VOXECharacCollector& operator=(const VOXECharacCollector&) = delete;
 
-  //! 1. The physical types that the feature collects. @param oTypes borrowed: the feature owns the array.
+  //! 1. The physical types that the feature collects. @param oNbTypes their number. @param oTypes borrowed: the feature
+  //! owns the array.
   //! @param oReserved preset to null by the caller, never read.
   virtual HRESULT GetAvailablePhysicalTypes(int& oNbTypes, const int*& oTypes, const void*& oReserved) = 0;
 
-  //! 2. @param oNb set to 0. @param oTypes set to null. @return S_OK.
+  //! 2. @param iPhysicalType not looked at. @param oNb set to 0. @param oTypes set to null. @return S_OK.
   virtual HRESULT GetAvailableEntityPhysicalTypes(int iPhysicalType, int& oNb, const int*& oTypes);
 
-  //! 3. The versions of one physical type. @param oVersions borrowed: the feature owns the array.
+  //! 3. The versions of one physical type. @param iPhysicalType the type. @param oNbVersions their number.
+  //! @param oVersions borrowed: the feature owns the array.
   virtual HRESULT GetAvailableVersions(int iPhysicalType, int& oNbVersions, const VOXSamCharacVersion*& oVersions) = 0;
 
-  //! 4. The positions of one physical type and version. @param oPositions borrowed: the feature owns the array.
+  //! 4. The positions of one physical type and version. @param iPhysicalType, iVersion the two.
+  //! @param oNbPositions their number. @param oPositions borrowed: the feature owns the array.
   virtual HRESULT GetAvailablePositions(int iPhysicalType, const VOXSamCharacVersion& iVersion, int& oNbPositions,
                                         const VOXString*& oPositions) = 0;
 
-  //! 5. to 7. Never called by the adaptor.
+  //! 5. The collector of a definition. Never called by the adaptor.
   virtual HRESULT GetCharacCollector(int iPhysicalType, const VOXSamCharacVersion& iVersion, const VOXString& iPosition,
                                      const VOXAnalysisCharacCollector*& oCollector) = 0;
+  //! 6. The collectors that stand now. Never called by the adaptor.
   virtual HRESULT GetCharacCollectors(int& oNb, const VOXAnalysisCharacCollector* const*& oCollectors) = 0;
+  //! 7. Whether a collector is still what the feature would answer. Never called by the adaptor.
   virtual HRESULT IsCharacCollectorUpToDate(const VOXAnalysisCharacCollector* iCollector, unsigned char& oUpToDate) = 0;
 
   //! 8. Whether the feature offers a definition. A version that matches only with its variant flag set is offered only
-  //! when the flag of iVersion is exactly 1. @param oAvailable preset to 0.
+  //! when the flag of iVersion is exactly 1. @param iPhysicalType, iVersion, iPosition the definition.
+  //! @param oAvailable preset to 0.
   virtual HRESULT IsAnAvailableDefinition(int iPhysicalType, const VOXSamCharacVersion& iVersion,
                                           const VOXString& iPosition, unsigned char& oAvailable);
 
@@ -96,21 +103,23 @@ protected:
   virtual HRESULT IsAuthorizedToArchiveCollectors(unsigned char& oAuthorized) const;
 
   //! The archiver that is kept for a definition. One that no longer matches the feature's time stamp is dropped.
+  //! @param iPhysicalType, iVersion, iPosition the definition.
   //! @param oArchiver preset to null; borrowed; null when none is kept. @return E_FAIL for an unknown definition, too.
   HRESULT GetCollectorArchiver(int iPhysicalType, const VOXSamCharacVersion& iVersion, const VOXString& iPosition,
                                VOXAnalysisCollectorArchiver*& oArchiver);
 
-  //! Keeps an archiver for a definition, in place of the one so far. @param iArchiver keeper takes its own; may be null.
+  //! Keeps an archiver for a definition, in place of the one so far.
+  //! @param iPhysicalType, iVersion, iPosition the definition. @param iArchiver keeper takes its own; may be null.
   HRESULT SetCollectorArchiver(int iPhysicalType, const VOXSamCharacVersion& iVersion, const VOXString& iPosition,
                                VOXAnalysisCollectorArchiver* iArchiver);
 
   //! Gives a collector the archiver of its definition, a new one if none is kept. Nothing is done for null, for a feature
   //! that is not authorised, for a collector that lacks values somewhere or has an archiver, and for derived versions.
-  //! @param iFlag not read.
+  //! @param iCollector borrowed. @param iFlag not read.
   HRESULT AssignArchiverToCollector(const VOXAnalysisCharacCollector* iCollector, CollectorArchiveFlag iFlag);
 
-  //! Whether a collector holds values for every one of its entities. @param oForAll preset to 1, which it stays for null,
-  //! for a collector without values, and on failure.
+  //! Whether a collector holds values for every one of its entities. @param iCollector borrowed. @param oForAll preset
+  //! to 1, which it stays for null, for a collector without values, and on failure.
   HRESULT CollectorIsForAllEntities(const VOXAnalysisCharacCollector* iCollector, unsigned char& oForAll);
 
 private:

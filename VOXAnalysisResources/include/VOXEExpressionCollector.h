@@ -61,5 +61,5 @@ private:
   VOXAnalysisExplicitParent _Context; // empty handle when not known
 
 protected:
-  void* _LinkableValue; // of the feature, from when its context was first found; for deriving types, borrowed
+  void* _LinkableValue; //!< of the feature, from when its context was first found; for deriving types, borrowed
 };

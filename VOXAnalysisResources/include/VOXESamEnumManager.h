@@ -21,8 +21,8 @@ public:
   //! The class's own description, registered at the first request. Borrowed; null when the runtime cannot register it:
   //! identifier and name are then those of VOXBaseUnknown, the class test answers 0.
   static VOXMetaClass* MetaObject();
-  static const IID& ClassId();
-  static const char* ClassName();
+  static const IID& ClassId();    //!< identifier in the description above
+  static const char* ClassName(); //!< name in the description above
   VOXMetaClass* GetMetaObject() const override;
   const char* IsA() const override;
   int IsAKindOf(const char* iName) const override;

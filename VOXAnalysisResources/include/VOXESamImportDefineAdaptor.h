@@ -14,7 +14,7 @@ public:
   //! 1. @return S_OK.
   HRESULT Accept() override;
 
-  //! 2. @param oComment untouched. @return S_OK.
+  //! 2. @param iType not looked at. @param oComment untouched. @return S_OK.
   HRESULT GetCommentForType(VOXString iType, VOXUnicodeString& oComment) override;
 
   //! 3. @param ioTypes left as it is. @return S_OK.

@@ -14,8 +14,8 @@ public:
   VOXSamGroupTools& operator=(const VOXSamGroupTools& iOther);
 
   //! The physical type of groups of a kind: "NODE" of value 8; "EDGE", "FACE" and "ELEMENT" of value 9.
-  //! @param iModel borrowed; its rules data number the types. @param oPhysicalType preset to VOXSamPhysicalTypeNone,
-  //! which it stays for any other keyword of value 8.
+  //! @param iModel borrowed; its rules data number the types. @param iValue, iEntityType the kind. @param oPhysicalType
+  //! preset to VOXSamPhysicalTypeNone, which it stays for any other keyword of value 8.
   //! @return S_OK; E_FAIL after an error report: no model or rules, another value, an unknown keyword of value 9, or a
   //! type that the rules do not know.
   static HRESULT GetExplicitGroupType(VOXAnalysisExplicitModel* iModel, VOXSamValue iValue, VOXString iEntityType,

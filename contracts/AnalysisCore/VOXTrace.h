@@ -10,6 +10,7 @@ struct VOXTraceData;
 class VOX_HOST_API VOXTrace
 {
 public:
+  //! A channel of that name.
   explicit VOXTrace(const char* iName);
   ~VOXTrace();
   VOXTrace(const VOXTrace&) = delete;

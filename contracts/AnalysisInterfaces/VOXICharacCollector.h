@@ -31,7 +31,8 @@ class VOX_HOST_API VOXICharacCollector : public VOXBaseUnknown
   virtual HRESULT GetAvailablePositions(int iPhysicalType, const VOXSamCharacVersion& iVersion, int& oNbPositions,
                                         const VOXString*& oPositions) = 0;
 
-  //! 5. The collector of a definition, filled. @param oCollector preset to null; on S_OK borrowed, null when the feature
+  //! 5. The collector of a definition, filled. @param iPhysicalType, iVersion, iPosition the definition.
+  //! @param oCollector preset to null; on S_OK borrowed, null when the feature
   //! has no such values. @return S_OK; a failure.
   virtual HRESULT GetCharacCollector(int iPhysicalType, const VOXSamCharacVersion& iVersion, const VOXString& iPosition,
                                      const VOXAnalysisCharacCollector*& oCollector) = 0;
@@ -40,16 +41,18 @@ class VOX_HOST_API VOXICharacCollector : public VOXBaseUnknown
   //! call. @return S_OK; a failure.
   virtual HRESULT GetCharacCollectors(int& oNb, const VOXAnalysisCharacCollector* const*& oCollectors) = 0;
 
-  //! 7. Whether a collector is still what the feature would answer. @param oUpToDate preset to 0. @return S_OK; a failure.
+  //! 7. Whether a collector is still what the feature would answer. @param iCollector borrowed.
+  //! @param oUpToDate preset to 0. @return S_OK; a failure.
   virtual HRESULT IsCharacCollectorUpToDate(const VOXAnalysisCharacCollector* iCollector, unsigned char& oUpToDate) = 0;
 
-  //! 8. Whether the feature offers a definition. @param oAvailable preset to 0. @return S_OK; E_FAIL after an error
+  //! 8. Whether the feature offers a definition. @param iPhysicalType, iVersion, iPosition the definition.
+  //! @param oAvailable preset to 0. @return S_OK; E_FAIL after an error
   //! report.
   virtual HRESULT IsAnAvailableDefinition(int iPhysicalType, const VOXSamCharacVersion& iVersion,
                                           const VOXString& iPosition, unsigned char& oAvailable) = 0;
 
-  //! 9. Text that a person knows a physical type of the feature by. @param oTitle untouched on failure.
-  //! @return S_OK; a failure.
+  //! 9. Text that a person knows a physical type of the feature by. @param iPhysicalType its number. @param oTitle
+  //! untouched on failure. @return S_OK; a failure.
   virtual HRESULT GetTitle(int iPhysicalType, VOXString& oTitle) = 0;
 
   //! 10. The collectors of the occurrences of the feature. @return S_OK; a failure.

@@ -17,14 +17,16 @@ class VOX_HOST_API VOXICharacCollectorDerivatives : public VOXBaseUnknown
   //! 2. Whether there are derivatives of one collector. @param iCollector borrowed.
   virtual bool IsDerivativeAvailable(const VOXAnalysisCharacCollector* iCollector) = 0;
 
-  //! 3. Computes the variation of the given parameters. @param iParameters borrowed. @return S_OK; a failure.
+  //! 3. Computes the variation of the given parameters. @param iCollector, iParameters borrowed. @return S_OK; a
+  //! failure.
   virtual HRESULT ComputeParameterVariation(const VOXAnalysisCharacCollector* iCollector,
                                             VOXListValVOXBaseUnknown_var* iParameters) = 0;
 
   //! 4. Sets the variation of one parameter. @return S_OK; a failure.
   virtual HRESULT SetParameterVariation(const VOXBaseUnknown_var& iParameter, double iVariation) = 0;
 
-  //! 5. The collectors of the first and the second derivative. @param oFirst, oSecond preset to null; on S_OK borrowed.
+  //! 5. The collectors of the first and the second derivative. @param iCollector borrowed.
+  //! @param oFirst, oSecond preset to null; on S_OK borrowed.
   //! @return S_OK; a failure.
   virtual HRESULT GetCharacCollectorDerivatives(const VOXAnalysisCharacCollector* iCollector,
                                                 const VOXAnalysisCharacCollector*& oFirst,

@@ -18,7 +18,8 @@ class VOX_HOST_API VOXIExpressionCollector : public VOXBaseUnknown
   virtual HRESULT GetAvailableExpressions(const VOXAnalysisExplicitExpression& iDefinition,
                                           VOXAnalysisExplicitListUsr& ioList) = 0;
 
-  //! 2. Text that a person knows an expression by. @param oTitle untouched on failure. @return S_OK; a failure.
+  //! 2. Text that a person knows an expression by. @param iExpression the expression. @param oTitle untouched on
+  //! failure. @return S_OK; a failure.
   virtual HRESULT GetExpressionTitle(const VOXAnalysisExplicitExpression& iExpression, VOXString& oTitle) = 0;
 
   //! 3. Number of expressions. @param oNumber preset to -1. @return S_OK; E_FAIL after an error report.

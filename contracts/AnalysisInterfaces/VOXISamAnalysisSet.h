@@ -42,11 +42,13 @@ class VOX_HOST_API VOXISamAnalysisSet : public VOXBaseUnknown
   //! and on failure. @return S_OK; E_FAIL.
   virtual HRESULT ListShownUnder(VOXListValVOXBaseUnknown_var*& oFathers) const = 0;
 
-  //! 27. The member of that name. @param oMember emptied when there is none; on S_OK the handle holds its own reference.
+  //! 27. The member of that name. @param iName its name. @param oMember emptied when there is none; on S_OK the handle
+  //! holds its own reference.
   //! @param iMode always 0. @return S_OK, with or without a member; E_FAIL.
   virtual HRESULT GetMemberByName(const VOXUnicodeString& iName, VOXISpecObject_var& oMember, int iMode) const = 0;
 
-  //! 28. The members that have an interface, in the set's order. @param oMembers emptied, then filled.
+  //! 28. The members that have an interface, in the set's order. @param iInterfaceName name of the interface.
+  //! @param oMembers emptied, then filled.
   //! @param iMode always 0. @return S_OK; E_FAIL.
   virtual HRESULT ListMembers(const char* iInterfaceName, VOXListValVOXISpecObject_var& oMembers, int iMode) const = 0;
 };

@@ -15,9 +15,11 @@ class VOX_HOST_API VOXISamEntityVisu : public VOXBaseUnknown
   //! @return caller deletes; null when there is none.
   virtual VOXRep* BuildEntityRep(int iMode) = 0;
 
-  //! 2. Finds what was picked. @param ioElement path that the answer is put into. @return S_OK; a failure.
+  //! 2. Finds what was picked. @param iPick the pick. @param ioElement path that the answer is put into. @return S_OK;
+  //! a failure.
   virtual HRESULT DecodeGraphic(const VOXPickPath& iPick, VOXPathElement& ioElement) = 0;
 
-  //! 3. Makes the highlight of a path. @param ioHighlight path that the representations are added to. @return S_OK.
+  //! 3. Makes the highlight of a path. @param iElement the path. @param ioHighlight path that the representations are
+  //! added to. @return S_OK.
   virtual HRESULT BuildHighlightLook(const VOXPathElement& iElement, VOXRepPath& ioHighlight) = 0;
 };

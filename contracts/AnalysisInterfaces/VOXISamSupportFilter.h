@@ -16,13 +16,14 @@ class VOX_HOST_API VOXISamSupportFilter : public VOXBaseUnknown
   //! 1. Whether what the path designates can be selected. @param iPath borrowed.
   virtual bool GetStatus(VOXPathElement* iPath) = 0;
 
-  //! 2. What to select in place of the path. @param oFirst, oSecond preset to null; on S_OK one reference each for the
-  //! caller. @return S_OK; a failure.
+  //! 2. What to select in place of the path. @param iPath borrowed. @param oFirst, oSecond preset to null; on S_OK one
+  //! reference each for the caller. @return S_OK; a failure.
   virtual HRESULT GetSelectableObject(VOXPathElement* iPath, VOXBaseUnknown*& oFirst, VOXBaseUnknown*& oSecond) = 0;
 
   //! 3. Whether a selected object may be a support. Both borrowed. @return S_OK; E_FAIL refuses.
   virtual HRESULT ValidateSupport(const VOXBaseUnknown* iFirst, const VOXBaseUnknown* iSecond) = 0;
 
-  //! 4. Key of the message that explains a refusal. @param oId untouched on failure. @return S_OK; E_FAIL without one.
+  //! 4. Key of the message that explains a refusal. @param iSupport borrowed. @param oId untouched on failure.
+  //! @return S_OK; E_FAIL without one.
   virtual HRESULT GetNLSid(const VOXBaseUnknown* iSupport, VOXString& oId) = 0;
 };

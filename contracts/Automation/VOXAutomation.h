@@ -19,7 +19,7 @@ enum VARTYPE : std::uint16_t
 //! One automation value.
 struct VARIANT
 {
-  VARTYPE vt;
+  VARTYPE vt; //!< which of the members below holds the value
   union
   {
     std::int16_t iVal;
@@ -32,8 +32,8 @@ struct VARIANT
 //! Array of automation values. Made by BuildFromVariantArray, destroyed by DestroySafeArray.
 struct SAFEARRAY
 {
-  std::uint32_t count;
-  VARIANT* values; //!< owned by the array
+  std::uint32_t count; //!< number of values
+  VARIANT* values;     //!< owned by the array
 };
 
 //! A value of the component runtime that can hold any of a few types.
@@ -41,18 +41,18 @@ class VOX_HOST_API any
 {
 public:
   any();
-  explicit any(std::int16_t iValue);
-  explicit any(std::int32_t iValue);
-  explicit any(double iValue);
-  any(const any& iOther);
-  any& operator=(const any& iOther);
+  explicit any(std::int16_t iValue); //!< of kind VT_I2
+  explicit any(std::int32_t iValue); //!< of kind VT_I4
+  explicit any(double iValue);       //!< of kind VT_R8
+  any(const any& iOther);            //!< of the same kind and value
+  any& operator=(const any& iOther); //!< takes over kind and value
   ~any();
 
   //! Kind of the value; VT_EMPTY when there is none.
   VARTYPE GetKind() const;
-  std::int16_t AsShort() const;
-  std::int32_t AsLong() const;
-  double AsDouble() const;
+  std::int16_t AsShort() const; //!< the value of kind VT_I2
+  std::int32_t AsLong() const;  //!< the value of kind VT_I4
+  double AsDouble() const;      //!< the value of kind VT_R8
 
 private:
   VARIANT _Value;

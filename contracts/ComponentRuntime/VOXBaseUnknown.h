@@ -51,7 +51,8 @@ public:
   //! 4. Automation: number of type descriptions. @param oCount set to 0. @return E_NOTIMPL.
   virtual HRESULT GetTypeInfoCount(unsigned int* oCount);
 
-  //! 5. Automation: a type description. @param oInfo set to null. @return E_NOTIMPL.
+  //! 5. Automation: a type description. @param iIndex, iLocale not looked at. @param oInfo set to null.
+  //! @return E_NOTIMPL.
   virtual HRESULT GetTypeInfo(unsigned int iIndex, unsigned long iLocale, VOXTypeInfo** oInfo);
 
   //! 6. Automation: numbers of named members. @return E_NOTIMPL, nothing written.
@@ -107,12 +108,12 @@ public:
 
   //! Memory for a component object; null when there is none (the constructor is then not run).
   static void* operator new(std::size_t iSize) noexcept;
-  static void operator delete(void* iMemory);
+  static void operator delete(void* iMemory); //!< gives that memory back
 
   //! Description of this class, borrowed.
   static VOXMetaClass* MetaObject();
-  static const IID& ClassId();
-  static const char* ClassName();
+  static const IID& ClassId();    //!< identifier of this class, borrowed
+  static const char* ClassName(); //!< name of this class, borrowed
 
 private:
   friend class VOXComponentRuntime; // the host's, which fills the two pointers below

@@ -6,10 +6,10 @@
 //! 128-bit identifier of an interface or a class.
 struct GUID
 {
-  std::uint32_t Data1;
-  std::uint16_t Data2;
-  std::uint16_t Data3;
-  std::uint8_t Data4[8];
+  std::uint32_t Data1;   //!< first 32 bits
+  std::uint16_t Data2;   //!< next 16 bits
+  std::uint16_t Data3;   //!< next 16 bits
+  std::uint8_t Data4[8]; //!< last 64 bits
 };
 
 using IID = GUID;

@@ -21,17 +21,24 @@ class VOX_HOST_API VOXHandle
 {
 public:
   VOXHandle() noexcept : _Pointer(nullptr) {}
+  //! Empty.
   VOXHandle(VOXNullHandle) noexcept : _Pointer(nullptr) {}
+  //! Empty.
   VOXHandle(std::nullptr_t) noexcept : _Pointer(nullptr) {}
+  //! Queries the component for the handle's interface.
   VOXHandle(const VOXBaseUnknown* iComponent) : _Pointer(Query(iComponent)) {}
+  //! Takes a reference of its own.
   VOXHandle(const VOXHandle& iOther) : _Pointer(iOther._Pointer) { Take(); }
+  //! Takes over the other's reference; that one is empty afterwards.
   VOXHandle(VOXHandle&& ioOther) noexcept : _Pointer(ioOther._Pointer) { ioOther._Pointer = nullptr; }
+  //! Queries the other's component for this handle's interface.
   template <class Other>
   VOXHandle(const VOXHandle<Other>& iOther) : _Pointer(Query(static_cast<const VOXBaseUnknown*>(iOther.Get())))
   {
   }
   ~VOXHandle() { GiveBack(); }
 
+  //! Gives back the reference so far and takes over that of iOther, which is a copy.
   VOXHandle& operator=(VOXHandle iOther) noexcept
   {
     Interface* const previous = _Pointer;
@@ -42,12 +49,18 @@ public:
 
   //! The interface, borrowed; null when the handle is empty.
   Interface* Get() const noexcept { return _Pointer; }
+  //! The same.
   operator Interface*() const noexcept { return _Pointer; }
+  //! The same; the handle must not be empty.
   Interface* operator->() const noexcept { return _Pointer; }
+  //! The interface; the handle must not be empty.
   Interface& operator*() const noexcept { return *_Pointer; }
+  //! Whether the handle is empty.
   bool operator!() const noexcept { return _Pointer == nullptr; }
 
+  //! Whether the handle is empty.
   friend bool operator==(const VOXHandle& iLeft, VOXNullHandle) noexcept { return iLeft._Pointer == nullptr; }
+  //! Whether the handle holds something.
   friend bool operator!=(const VOXHandle& iLeft, VOXNullHandle) noexcept { return iLeft._Pointer != nullptr; }
 
 private:

@@ -13,14 +13,15 @@ class VOX_HOST_API VOXListVal
 {
 public:
   VOXListVal();
-  VOXListVal(const VOXListVal& iOther);
-  VOXListVal& operator=(const VOXListVal& iOther);
+  VOXListVal(const VOXListVal& iOther);            //!< copies the elements
+  VOXListVal& operator=(const VOXListVal& iOther); //!< takes copies in place of its own elements
   ~VOXListVal();
 
-  int Size() const;
-  Value& operator[](int iPosition);
-  const Value& operator[](int iPosition) const;
+  int Size() const;                             //!< number of elements
+  Value& operator[](int iPosition);             //!< an element
+  const Value& operator[](int iPosition) const; //!< the same, to be read
 
+  //! Adds a copy of a value at the end.
   void Append(const Value& iValue);
 
   //! Takes one element out; those behind it move up. At either end this costs the same for any number of elements.

@@ -9,17 +9,20 @@
 class VOX_HOST_API VOXRawCollint
 {
 public:
+  //! An empty list. @param iCapacity number of integers that room is made for.
   explicit VOXRawCollint(int iCapacity = 0);
-  VOXRawCollint(const VOXRawCollint& iOther);
-  VOXRawCollint& operator=(const VOXRawCollint& iOther);
+  VOXRawCollint(const VOXRawCollint& iOther);            //!< copies the integers
+  VOXRawCollint& operator=(const VOXRawCollint& iOther); //!< takes copies in place of its own integers
   ~VOXRawCollint();
 
-  int Size() const;
+  int Size() const; //!< number of integers
 
   //! An index outside 1..Size() is a fatal error.
   int& operator[](int iPosition);
+  //! The same, to be read.
   int operator[](int iPosition) const;
 
+  //! Adds an integer at the end.
   void Append(int iValue);
 
   //! Position of the first iValue at or after iFrom; 0 when there is none.

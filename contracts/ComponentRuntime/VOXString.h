@@ -9,14 +9,16 @@ struct VOXTextRep;
 class VOX_HOST_API VOXString
 {
 public:
-  VOXString(const char* iText = nullptr);
-  VOXString(const VOXString& iOther);
-  VOXString& operator=(const VOXString& iOther);
+  VOXString(const char* iText = nullptr);        //!< a copy of the text
+  VOXString(const VOXString& iOther);            //!< the same text
+  VOXString& operator=(const VOXString& iOther); //!< takes over the text
   ~VOXString();
 
-  bool operator==(const VOXString& iOther) const;
-  bool operator==(const char* iOther) const;
+  bool operator==(const VOXString& iOther) const; //!< byte by byte
+  bool operator==(const char* iOther) const;      //!< byte by byte; a null pointer is the empty text
+  //! The opposite.
   bool operator!=(const VOXString& iOther) const { return !(*this == iOther); }
+  //! The opposite.
   bool operator!=(const char* iOther) const { return !(*this == iOther); }
 
   //! Number of bytes.
@@ -24,7 +26,7 @@ public:
 
   //! The text, zero-terminated, never null. Borrowed: valid until this object changes or dies.
   operator const char*() const;
-  const char* CastToCharPtr() const;
+  const char* CastToCharPtr() const; //!< the same
 
 private:
   VOXTextRep* _Rep; // null for the empty text

@@ -24,6 +24,7 @@ public:
   VOXTieBase(const VOXTieBase&) = delete;
   VOXTieBase& operator=(const VOXTieBase&) = delete;
 
+  //! Attaches tie and adaptor to a component. @return as VOXBaseUnknown::SetImpl.
   VOXBaseUnknown* SetImpl(VOXBaseUnknown* iImplementation) override
   {
     _Adaptor->SetImpl(iImplementation);

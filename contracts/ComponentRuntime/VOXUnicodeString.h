@@ -11,17 +11,19 @@ class VOX_HOST_API VOXUnicodeString
 public:
   //! A null pointer gives the empty text.
   VOXUnicodeString(const char* iText = nullptr);
-  VOXUnicodeString(const VOXUnicodeString& iOther);
-  VOXUnicodeString& operator=(const VOXUnicodeString& iOther);
-  VOXUnicodeString& operator=(const char* iText);
+  VOXUnicodeString(const VOXUnicodeString& iOther);            //!< the same text
+  VOXUnicodeString& operator=(const VOXUnicodeString& iOther); //!< takes over the text
+  VOXUnicodeString& operator=(const char* iText);              //!< takes over the text; a null pointer is the empty one
   ~VOXUnicodeString();
 
-  bool operator==(const VOXUnicodeString& iOther) const;
-  bool operator==(const char* iOther) const;
+  bool operator==(const VOXUnicodeString& iOther) const; //!< byte by byte
+  bool operator==(const char* iOther) const;             //!< byte by byte; a null pointer is the empty text
+  //! The opposite.
   bool operator!=(const VOXUnicodeString& iOther) const { return !(*this == iOther); }
+  //! The opposite.
   bool operator!=(const char* iOther) const { return !(*this == iOther); }
-  VOXUnicodeString operator+(const VOXUnicodeString& iOther) const;
-  VOXUnicodeString operator+(const char* iOther) const;
+  VOXUnicodeString operator+(const VOXUnicodeString& iOther) const; //!< this text, then the other
+  VOXUnicodeString operator+(const char* iOther) const;             //!< this text, then the other
 
   //! Number of bytes.
   int GetLength() const;
@@ -37,8 +39,8 @@ public:
 
   //! The text in 8-bit form, zero-terminated, never null. Borrowed: valid until this object changes or dies.
   const char* ConvertToChar() const;
-  const char* CastToCharPtr() const;
-  operator const char*() const;
+  const char* CastToCharPtr() const; //!< the same
+  operator const char*() const;      //!< the same
 
 private:
   VOXTextRep* _Rep; // null for the empty text

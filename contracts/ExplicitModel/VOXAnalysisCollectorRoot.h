@@ -60,8 +60,10 @@ public:
   //! 11. Whether the collector can be stored with its document. @return 1 or 0.
   virtual unsigned char IsStreamable() const;
 
-  //! The reference count after taking, or giving back, one reference. At 0 the collector is destroyed.
+  //! Takes one reference. @return the count afterwards.
   int AddRef() const;
+
+  //! Gives one reference back; at 0 the collector is destroyed. @return the count afterwards.
   int Release() const;
 
   //! Asks for destruction as soon as nobody needs the collector. @param iRequest 1 to ask, 0 to take it back.
@@ -78,5 +80,5 @@ public:
 protected:
   friend class VOXExplicitAccess; // the host's
 
-  VOXCollectorData* _Data;
+  VOXCollectorData* _Data; //!< the host's
 };

@@ -20,12 +20,13 @@ class VOX_HOST_API VOXAnalysisExplicitData
 {
 public:
   VOXAnalysisExplicitData();
-  VOXAnalysisExplicitData(const VOXAnalysisExplicitData& iOther);
-  VOXAnalysisExplicitData& operator=(const VOXAnalysisExplicitData& iOther);
+  VOXAnalysisExplicitData(const VOXAnalysisExplicitData& iOther);            //!< designates what iOther does
+  VOXAnalysisExplicitData& operator=(const VOXAnalysisExplicitData& iOther); //!< re-targets this handle
   ~VOXAnalysisExplicitData();
 
   //! Whether both designate the same object of the same model, or both nothing. @return 1 or 0.
   unsigned char operator==(const VOXAnalysisExplicitData& iOther) const;
+  //! The opposite. @return 1 or 0.
   unsigned char operator!=(const VOXAnalysisExplicitData& iOther) const;
 
   //! The model that holds the object, borrowed; null for an empty handle.
@@ -34,8 +35,8 @@ public:
 protected:
   friend class VOXExplicitAccess; // the host's
 
-  VOXAnalysisExplicitModel* _Model;
-  VOXSamModelDataRoot* _Object;
+  VOXAnalysisExplicitModel* _Model; //!< borrowed; null for an empty handle
+  VOXSamModelDataRoot* _Object;     //!< borrowed; null for an empty handle
 };
 
 //! The empty handle.
@@ -46,8 +47,8 @@ class VOX_HOST_API VOXAnalysisExplicitChild : public VOXAnalysisExplicitData
 {
 public:
   VOXAnalysisExplicitChild();
-  VOXAnalysisExplicitChild(const VOXAnalysisExplicitData& iOther);
-  VOXAnalysisExplicitChild& operator=(const VOXAnalysisExplicitData& iOther);
+  VOXAnalysisExplicitChild(const VOXAnalysisExplicitData& iOther);            //!< designates what iOther does
+  VOXAnalysisExplicitChild& operator=(const VOXAnalysisExplicitData& iOther); //!< re-targets this handle
 
   //! Physical type number. @param oType untouched on failure. @return S_OK; E_FAIL for an empty handle.
   HRESULT GetPhysicalType(int& oType) const;
@@ -80,8 +81,8 @@ class VOX_HOST_API VOXAnalysisExplicitParent : public VOXAnalysisExplicitChild
 {
 public:
   VOXAnalysisExplicitParent();
-  VOXAnalysisExplicitParent(const VOXAnalysisExplicitData& iOther);
-  VOXAnalysisExplicitParent& operator=(const VOXAnalysisExplicitData& iOther);
+  VOXAnalysisExplicitParent(const VOXAnalysisExplicitData& iOther);            //!< designates what iOther does
+  VOXAnalysisExplicitParent& operator=(const VOXAnalysisExplicitData& iOther); //!< re-targets this handle
 
   //! Category of the object. @param oCategory untouched on failure. @return S_OK; E_FAIL for an empty handle.
   HRESULT GetCategory(VOXSamValue& oCategory) const;
@@ -92,12 +93,13 @@ public:
   HRESULT GetChildrenList(VOXAnalysisExplicitList& oChildren) const;
 
   //! The children that pass a filter, appended to a list that was created in the same model.
-  //! @param iValue an int, as iCompare tells. @param iRecursive, iUnique always false.
-  //! @return S_OK; E_FAIL for an empty handle or list: nothing is appended.
+  //! @param ioChildren the list. @param iCompare, iValue the filter: an int, of which iCompare tells the meaning.
+  //! @param iRecursive, iUnique always false. @return S_OK; E_FAIL for an empty handle or list: nothing is appended.
   HRESULT GetChildrenList(VOXAnalysisExplicitListUsr& ioChildren, VOXSamCompareType iCompare, const void* iValue,
                           unsigned char iRecursive, unsigned char iUnique) const;
 
   //! The entity collector of that definition that is attached to this object.
+  //! @param iValue, iName value kind and name of the definition.
   //! @param oCollector borrowed; null when there is none, and on failure. @return S_OK; E_FAIL for an empty handle.
   HRESULT FindEntityCollector(const VOXSamValue& iValue, const VOXString& iName,
                               VOXAnalysisEntityCollector*& oCollector) const;
@@ -115,8 +117,8 @@ class VOX_HOST_API VOXAnalysisExplicitEntity : public VOXAnalysisExplicitParent
 {
 public:
   VOXAnalysisExplicitEntity();
-  VOXAnalysisExplicitEntity(const VOXAnalysisExplicitData& iOther);
-  VOXAnalysisExplicitEntity& operator=(const VOXAnalysisExplicitData& iOther);
+  VOXAnalysisExplicitEntity(const VOXAnalysisExplicitData& iOther);            //!< designates what iOther does
+  VOXAnalysisExplicitEntity& operator=(const VOXAnalysisExplicitData& iOther); //!< re-targets this handle
 
   //! What the entity applies to.
   //! @param oCount number of objects; 0 on failure.
@@ -135,8 +137,8 @@ class VOX_HOST_API VOXAnalysisExplicitExpression : public VOXAnalysisExplicitChi
 {
 public:
   VOXAnalysisExplicitExpression();
-  VOXAnalysisExplicitExpression(const VOXAnalysisExplicitData& iOther);
-  VOXAnalysisExplicitExpression& operator=(const VOXAnalysisExplicitData& iOther);
+  VOXAnalysisExplicitExpression(const VOXAnalysisExplicitData& iOther);            //!< designates what iOther does
+  VOXAnalysisExplicitExpression& operator=(const VOXAnalysisExplicitData& iOther); //!< re-targets this handle
 };
 
 //! Handle on an axis system.
@@ -144,6 +146,6 @@ class VOX_HOST_API VOXAnalysisExplicitAxis : public VOXAnalysisExplicitChild
 {
 public:
   VOXAnalysisExplicitAxis();
-  VOXAnalysisExplicitAxis(const VOXAnalysisExplicitData& iOther);
-  VOXAnalysisExplicitAxis& operator=(const VOXAnalysisExplicitData& iOther);
+  VOXAnalysisExplicitAxis(const VOXAnalysisExplicitData& iOther);            //!< designates what iOther does
+  VOXAnalysisExplicitAxis& operator=(const VOXAnalysisExplicitData& iOther); //!< re-targets this handle
 };

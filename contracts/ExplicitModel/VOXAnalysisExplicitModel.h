@@ -33,16 +33,19 @@ public:
   VOXAnalysisExplicitRulesData(const VOXAnalysisExplicitRulesData&) = delete;
   VOXAnalysisExplicitRulesData& operator=(const VOXAnalysisExplicitRulesData&) = delete;
 
-  //! Number of a named physical type. @param oNumber untouched on failure. @return S_OK; E_FAIL for an unknown name.
+  //! Number of a named physical type. @param iName its name. @param oNumber untouched on failure. @return S_OK; E_FAIL
+  //! for an unknown name.
   HRESULT GetPhysicalTypeNumber(const char* iName, int& oNumber) const;
 
-  //! Category of a physical type. @param oCategory untouched on failure. @return S_OK; E_FAIL for an unknown number.
+  //! Category of a physical type. @param iType its number. @param oCategory untouched on failure. @return S_OK; E_FAIL
+  //! for an unknown number.
   HRESULT GetPhysicalTypeCategory(int iType, VOXSamValue& oCategory) const;
 
   //! Physical types that are allowed under a type. An entry may be negative: its absolute value is the type, and the
   //! sign says that at most one is allowed.
-  //! @param oCount number of entries; untouched on failure. @param oTypes caller frees with array delete; null when
-  //! there is none; untouched on failure. @return S_OK; E_FAIL for an unknown number or no memory.
+  //! @param iType the type above. @param oCount number of entries; untouched on failure. @param oTypes caller frees
+  //! with array delete; null when there is none; untouched on failure. @return S_OK; E_FAIL for an unknown number or no
+  //! memory.
   HRESULT GetPhysicalTypeAuthorizedChildren(int iType, int& oCount, int*& oTypes) const;
 
 protected:

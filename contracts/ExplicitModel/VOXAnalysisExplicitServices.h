@@ -7,12 +7,14 @@
 class VOX_HOST_API VOXAnalysisExplicitServices
 {
 public:
-  //! Records on a set or entity which feature made it. @param iKind 1: a feature of a mesh set; 2: any other.
+  //! Records on a set or entity which feature made it. @param ioParent the set or entity. @param iKind 1: a feature of
+  //! a mesh set; 2: any other.
   //! @param iIdentifier the feature's unique identifier. @return S_OK; E_FAIL for an empty handle.
   static HRESULT SetFeatureInfosForSetOrEntity(VOXAnalysisExplicitParent& ioParent, short iKind,
                                                unsigned int iIdentifier);
 
-  //! Reads the untyped pointer that is kept on a set or entity; borrowed. @param oPointer untouched on failure.
+  //! Reads the untyped pointer that is kept on a set or entity; borrowed. @param iParent the set or entity.
+  //! @param oPointer untouched on failure.
   //! @return S_OK; E_FAIL for an empty handle.
   static HRESULT GetFeaturePointerForSetOrEntity(VOXAnalysisExplicitParent& iParent, void*& oPointer);
 

@@ -15,10 +15,12 @@ public:
   std::int32_t _Step = 0;       //!< number of the analysis step, from 1; 0 when it is not known
   unsigned char _Variant = 0;   //!< 1 selects the variant: the imaginary part of complex values
 
+  //! Whether all members are equal.
   bool operator==(const VOXSamCharacVersion& iOther) const
   {
     return _KindCode == iOther._KindCode && _Occurrence == iOther._Occurrence && _Step == iOther._Step &&
            _Variant == iOther._Variant;
   }
+  //! The opposite.
   bool operator!=(const VOXSamCharacVersion& iOther) const { return !(*this == iOther); }
 };

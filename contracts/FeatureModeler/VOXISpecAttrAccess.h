@@ -31,27 +31,37 @@ class VOX_HOST_API VOXISpecAttrAccess : public VOXBaseUnknown
   virtual VOXListValVOXBaseUnknown_var* ListSpecObjects(const VOXISpecAttrKey* iKey,
                                                         const char* iInterfaceName) const = 0;
 
-  //! 4. to 8. Typed reads. @param iIndex 0 for a single value, from 1 for an element of a list.
-  //! @return the value; 0, the empty text or null when the type, the index or the attribute is wrong.
+  //! 4. Reads a real. @param iKey key of the attribute. @param iIndex 0 for a single value, from 1 for an element of a
+  //! list. @return the value; 0 when the type, the index or the attribute is wrong.
   virtual double GetDouble(const VOXISpecAttrKey* iKey, int iIndex) const = 0;
+  //! 5. Reads a boolean, as operation 4.
   virtual unsigned char GetBoolean(const VOXISpecAttrKey* iKey, int iIndex) const = 0;
+  //! 6. Reads a text, as operation 4. @return the empty text when something is wrong.
   virtual VOXUnicodeString GetString(const VOXISpecAttrKey* iKey, int iIndex) const = 0;
+  //! 7. Reads an integer, as operation 4.
   virtual std::int32_t GetInteger(const VOXISpecAttrKey* iKey, int iIndex) const = 0;
-  //! The object: one reference for the caller.
+  //! 8. Reads a feature, as operation 4. @return one reference for the caller; null when something is wrong.
   virtual VOXISpecObject* GetSpecObject(const VOXISpecAttrKey* iKey, int iIndex) const = 0;
 
-  //! 9. to 12. Typed writes. @param iIndex 0: the single value, or a new last element of a list; from 1: that element.
-  //! @return S_OK; E_FAIL for a wrong type or index.
+  //! 9. Writes a real. @param iKey key of the attribute. @param iValue the value. @param iIndex 0: the single value, or
+  //! a new last element of a list; from 1: that element. @return S_OK; E_FAIL for a wrong type or index.
   virtual HRESULT SetDouble(const VOXISpecAttrKey* iKey, double iValue, int iIndex) = 0;
+  //! 10. Writes a boolean, as operation 9.
   virtual HRESULT SetBoolean(const VOXISpecAttrKey* iKey, unsigned char iValue, int iIndex) = 0;
+  //! 11. Writes a text, as operation 9.
   virtual HRESULT SetString(const VOXISpecAttrKey* iKey, const VOXUnicodeString& iValue, int iIndex) = 0;
+  //! 12. Writes an integer, as operation 9.
   virtual HRESULT SetInteger(const VOXISpecAttrKey* iKey, std::int32_t iValue, int iIndex) = 0;
 
-  //! 13. Writes an integer into a single integer attribute. @param iMode always 1.
+  //! 13. Writes an integer into a single integer attribute. @param iKey key of the attribute. @param iValue the
+  //! integer.
+  //! @param iMode always 1.
   //! @return S_OK; E_FAIL for an attribute of another type.
   virtual HRESULT PutInteger(const VOXISpecAttrKey* iKey, std::int32_t iValue, int iMode) = 0;
 
-  //! 14. Adds a feature to a list. The list takes its own reference. @param iContext always null.
+  //! 14. Adds a feature to a list. The list takes its own reference. @param iKey key of the list. @param iObject the
+  //! feature.
+  //! @param iContext always null.
   //! @param iShared always false. @param iMode always 0. @return S_OK; E_FAIL when the attribute is no list of features.
   virtual HRESULT AddSpecObject(const VOXISpecAttrKey* iKey, const VOXBaseUnknown_var& iObject,
                                 VOXBaseUnknown* iContext, bool iShared, int iMode) = 0;

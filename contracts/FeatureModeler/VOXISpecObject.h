@@ -70,8 +70,8 @@ class VOX_HOST_API VOXISpecObject : public VOXBaseUnknown
   //! @param ioPointings what is found is appended; the receiver deletes every entry.
   virtual HRESULT GetPointings(VOXListPtrVOXSpecPointing& ioPointings) const = 0;
 
-  //! 14. Removes a component of this feature, wherever an attribute of the feature holds it. @param iMode always 0.
-  //! @return S_OK; E_FAIL when the feature does not hold it.
+  //! 14. Removes a component of this feature, wherever an attribute of the feature holds it.
+  //! @param iComponent the component. @param iMode always 0. @return S_OK; E_FAIL when the feature does not hold it.
   virtual HRESULT RemoveComponent(const VOXBaseUnknown_var& iComponent, int iMode) = 0;
 
   //! 15. Hands this component over to another feature: it leaves the attribute iFromAttribute of its father and goes to

@@ -7,6 +7,7 @@
 class VOX_HOST_API VOXSpecPointing
 {
 public:
+  //! An attribute. @param iAccess, iKey access to the feature that has it, and its key.
   VOXSpecPointing(const VOXISpecAttrAccess_var& iAccess, const VOXISpecAttrKey_var& iKey);
   ~VOXSpecPointing();
 
@@ -30,11 +31,12 @@ public:
   VOXListPtrVOXSpecPointing(const VOXListPtrVOXSpecPointing&) = delete;
   VOXListPtrVOXSpecPointing& operator=(const VOXListPtrVOXSpecPointing&) = delete;
 
-  int Size() const;
+  int Size() const; //!< number of entries
 
   //! An index outside 1..Size() is a fatal error.
   VOXSpecPointing*& operator[](int iPosition);
 
+  //! Adds an entry at the end.
   void Append(VOXSpecPointing* iPointing);
 
   //! Empties the list; the entries stay alive.

@@ -21,6 +21,8 @@ class VOX_HOST_API VOXSpecPubServices
 {
 public:
   //! Writes a feature into an attribute while a document is upgraded. The attribute takes its own reference.
+  //! @param iAccess, iKey access to the feature that has the attribute, and its key; borrowed. @param iObject the
+  //! feature that is written.
   //! @param iPosition in a list: from 1, the element that is replaced; 0 to append. In a single attribute: 0.
   //! @return S_OK; E_FAIL for a null argument, a wrong attribute type or a position outside the list.
   static HRESULT UpgradeSpecObjectAttribute(VOXISpecAttrAccess* iAccess, const VOXISpecAttrKey* iKey,
@@ -31,7 +33,7 @@ public:
 class VOX_HOST_API VOXSpecObjServices
 {
 public:
-  //! Brackets a change of a feature. @param iMark 1: out of date from now on; 0: the mark is taken back.
-  //! @return S_OK; E_FAIL for an empty handle.
+  //! Brackets a change of a feature. @param ioFeature the feature. @param iMark 1: out of date from now on; 0: the mark
+  //! is taken back. @return S_OK; E_FAIL for an empty handle.
   static HRESULT MarkForRebuild(VOXISpecObject_var& ioFeature, int iMark);
 };

@@ -23,6 +23,7 @@ enum Boolean : int
 //! Kinds of types that the knowledge layer tells apart.
 namespace VOXCkeContext
 {
+//! Kind of a type.
 enum TypeKind : int
 {
   RealType = 0,

@@ -15,7 +15,7 @@ public:
   _SEQUENCE_VOXBaseUnknown_ptr(const _SEQUENCE_VOXBaseUnknown_ptr&) = delete;
   _SEQUENCE_VOXBaseUnknown_ptr& operator=(const _SEQUENCE_VOXBaseUnknown_ptr&) = delete;
 
-  int Length() const;
+  int Length() const; //!< number of slots
 
   //! An index outside 0..Length()-1 is a fatal error.
   VOXBaseUnknown*& operator[](int iIndex);

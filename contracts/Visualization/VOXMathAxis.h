@@ -6,19 +6,19 @@
 //! A point or a direction: three coordinates.
 struct VOXMathVector
 {
-  double x;
-  double y;
-  double z;
+  double x; //!< first coordinate
+  double y; //!< second coordinate
+  double z; //!< third coordinate
 };
 
 //! An axis system: origin and three directions. A value.
 class VOXMathAxis
 {
 public:
-  VOXMathVector origin;
-  VOXMathVector i;
-  VOXMathVector j;
-  VOXMathVector k;
+  VOXMathVector origin; //!< where the axes meet
+  VOXMathVector i;      //!< first direction
+  VOXMathVector j;      //!< second direction
+  VOXMathVector k;      //!< third direction
 };
 
 //! The canonical axis: origin and the three unit directions I, J, K.

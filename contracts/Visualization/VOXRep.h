@@ -22,10 +22,11 @@ public:
   //! Number of representations under this one.
   virtual int GetNumberOfChildren() const;
 
-  //! Memory for a representation. @param iSite, iPool, iFlags always null, null and 0. @return null when there is none
-  //! (the constructor is then not run).
+  //! Memory for a representation. @param iSize bytes. @param iSite, iPool, iFlags always null, null and 0. @return null
+  //! when there is none (the constructor is then not run).
   static void* operator new(std::size_t iSize, const char* iSite, void* iPool, int iFlags) noexcept;
-  static void operator delete(void* iMemory);
+  static void operator delete(void* iMemory); //!< gives that memory back
+  //! Gives that memory back when a constructor throws.
   static void operator delete(void* iMemory, const char* iSite, void* iPool, int iFlags) noexcept;
 };
 
