@@ -55,8 +55,8 @@ def verdict(code, report, baseline):
         advice = ("This change breaks compiled code. Undo it; or, if it is meant, raise VOX_ABI_VERSION, tell it in CHANGELOG.md\n"
                   "and build the target vox_update_abi, as docs/abi.md says.")
     else:
-        advice = ("The binary interface changed, maybe without a break: docs/abi.md tells which changes are none. If it is meant,\n"
-                  "build the target vox_update_abi, with each compiler, and commit what it writes.")
+        advice = ("This change may break compiled code: docs/abi.md tells which do. If it is meant and breaks nothing, build\n"
+                  "the target vox_update_abi with each compiler, and commit what it writes.")
     return 1, f"{report}\nThe binary interface differs from {baseline.name}. {advice}"
 
 
