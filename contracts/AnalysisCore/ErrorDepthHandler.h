@@ -38,7 +38,8 @@ public:
   static int _SamDepth_;           //!< number of handlers that live
 };
 
-//! Reports the pending error.
+//! Reports the pending error. The adaptors never take it back: until the host does, here or when the last handler dies, a
+//! failed call of any later operation is reported as this error.
 //! @param ioKind kind of the error; the host may set it back to VOXSamErrorNone.
 //! @param iDepth number of live handlers. @param iFile, iLine the site. @param iIncludedFile, iIncludedLine likewise.
 //! @param iText text of the error, may be null. @param iNumber its number. @param iSeverity always 0.

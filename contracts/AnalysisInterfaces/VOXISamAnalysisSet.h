@@ -7,6 +7,7 @@
 inline constexpr IID IID_VOXISamAnalysisSet = VOXGuidOfName("VOXISamAnalysisSet");
 
 //! An analysis set: what holds analysis entities of one sort. Implemented by: the host.
+//! - Its members are the features in its attribute "SonsList": one that is added there is found by operations 27 and 28.
 //! The reserved operations are the host's; they keep the others in their places and are never called by the adaptors.
 class VOX_HOST_API VOXISamAnalysisSet : public VOXBaseUnknown
 {

@@ -27,7 +27,8 @@ class VOX_HOST_API VOXISamBasicComponent : public VOXBaseUnknown
                            int iLayer) const = 0;
 
   //! 5. Creates a sub-component. @param iType its start-up. @param iQualifier passed to it. @param iKind the kind of its
-  //! value (a VOXICkeType), may be empty. @return S_OK; E_FAIL.
+  //! value (a VOXICkeType), may be empty. The new one's identifying string is iType, or iType, a point and more.
+  //! @return S_OK; E_FAIL.
   virtual HRESULT CreateSubComponent(const VOXUnicodeString& iType, const VOXUnicodeString& iQualifier,
                                      const VOXBaseUnknown_var& iKind) = 0;
 

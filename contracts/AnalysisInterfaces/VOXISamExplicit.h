@@ -9,6 +9,8 @@
 inline constexpr IID IID_VOXISamExplicit = VOXGuidOfName("VOXISamExplicit");
 
 //! What a feature became in the explicit model. Implemented by: the host, for every feature that is translated.
+//! - The tags stand in the feature's attribute "ExplicitTag", an integer or a list of them: what somebody writes there is
+//!   what operations 3 to 5 answer from then on.
 class VOX_HOST_API VOXISamExplicit : public VOXBaseUnknown
 {
   VOX_INTERFACE(VOXISamExplicit)

@@ -36,7 +36,8 @@ enum ComponentState : int
 class VOX_HOST_API VOXBaseUnknown
 {
 public:
-  //! 1. The face of this component that carries an interface.
+  //! 1. The face of this component that carries an interface: its address as VOXBaseUnknown, with which every interface
+  //! begins.
   //! @param iInterface identifier of the interface.
   //! @param oFace preset to null. On S_OK: the interface pointer, one reference for the caller.
   //! @return S_OK; E_NOINTERFACE if the component has no such interface; E_INVALIDARG if oFace is null.

@@ -4,6 +4,7 @@
 #include "ComponentRuntime/VOXBaseUnknown.h"
 
 //! Makes one extension object, born with one reference that the component takes over. Null when there is no memory.
+//! The runtime attaches it with the object's own SetImpl, which a tie overrides, before anybody gets to see it.
 using VOXExtensionFactory = VOXBaseUnknown* (*)();
 
 //! Makes a late type known: the type of an implementation object, named at run time.

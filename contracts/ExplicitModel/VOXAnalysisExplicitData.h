@@ -68,7 +68,8 @@ public:
   HRESULT LinkWithTag(int iTag, const VOXAnalysisExplicitModel* iModel);
 
   //! Re-targets the handle on an object. @return S_OK; E_FAIL for a null argument or an object that is not of that
-  //! model: the handle is then empty.
+  //! model: the handle is then empty. It is empty, too, whatever the result, for an object that was deleted since its
+  //! pointer was handed out: such a pointer can be asked about as long as the model lives.
   HRESULT LinkWithPointer(VOXSamModelDataRoot* const& iObject, const VOXAnalysisExplicitModel* iModel);
 
   //! Deletes the object, and what only it holds, from its model. @return S_OK: the handle is empty afterwards; E_FAIL

@@ -33,8 +33,9 @@ public:
   VOXAnalysisExplicitRulesData(const VOXAnalysisExplicitRulesData&) = delete;
   VOXAnalysisExplicitRulesData& operator=(const VOXAnalysisExplicitRulesData&) = delete;
 
-  //! Number of a named physical type. @param iName its name. @param oNumber untouched on failure. @return S_OK; E_FAIL
-  //! for an unknown name.
+  //! Number of a named physical type. The adaptors ask for "MESH", the parent of nodes and elements, and for what stands
+  //! under a group: "NODE_GROUP", "EDGE_GROUP", "FACE_GROUP" and "ELEMENT_GROUP"; and for the names that VOXISamExplicit
+  //! answers. @param iName its name. @param oNumber untouched on failure. @return S_OK; E_FAIL for an unknown name.
   HRESULT GetPhysicalTypeNumber(const char* iName, int& oNumber) const;
 
   //! Category of a physical type. @param iType its number. @param oCategory untouched on failure. @return S_OK; E_FAIL

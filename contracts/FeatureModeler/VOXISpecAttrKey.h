@@ -18,6 +18,7 @@ enum VOXSpecAttrType : int
 };
 
 //! Key of one attribute of a feature type. Implemented by: the host's feature modeler.
+//! - It answers the query for its own interface, whether it belongs to a component or to none: it is kept in handles.
 //! - The key of a start-up's attribute and that of its instance's attribute of the same name are two keys.
 class VOX_HOST_API VOXISpecAttrKey : public VOXBaseUnknown
 {

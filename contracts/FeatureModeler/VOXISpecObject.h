@@ -17,7 +17,7 @@ using VOXISpecObject_var = VOXHandle<VOXISpecObject>;
 //!
 //! Implemented by: the host's feature modeler. Called by: adaptors and feature types.
 //! - An instance is made from a start-up (prototype), which gives it its default values and components. A start-up is a
-//!   feature as well, and has no start-up of its own.
+//!   feature as well, and has no start-up of its own. The components that a start-up holds are start-ups, too.
 //! - A feature lives in one container and has at most one father: the feature or container that holds it.
 //! - The time stamp grows with every change of the feature.
 class VOX_HOST_API VOXISpecObject : public VOXBaseUnknown

@@ -43,7 +43,7 @@ class VOX_HOST_API VOXICkeType : public VOXBaseUnknown
   virtual VOXCke::Boolean IsAKindOfType(VOXCkeContext::TypeKind iKind) const = 0;
 };
 
-//! Value of a knowledge parameter. Implemented by: the host's knowledge layer.
+//! Value of a knowledge parameter. Implemented by: the host's knowledge layer. It answers the query for its own interface.
 class VOX_HOST_API VOXICkeInst : public VOXBaseUnknown
 {
   VOX_INTERFACE(VOXICkeInst)
