@@ -2,14 +2,12 @@
 // bench_frd_reader [MEGABYTES]
 //   Reading a generated result file against a plain pass that only scans the rows and converts their numbers, both in the
 //   same run, one after the other, best of several. Limit: twice the time of the plain pass. Fails when it is not met.
+#include "../support/MappedFile.h"
 #include "Numbers.h"
 #include "ResultFile.h"
 #include "frd/FrdReader.h"
 
 #include <benchmark/benchmark.h>
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -39,15 +37,8 @@ class PlainPass
 public:
   explicit PlainPass(const std::string& iPath)
   {
-    const int descriptor = open(iPath.c_str(), O_RDONLY);
-    struct stat facts = {};
-    fstat(descriptor, &facts);
-    const auto size = static_cast<std::size_t>(facts.st_size);
-    char* const text = static_cast<char*>(mmap(nullptr, size, PROT_READ, MAP_PRIVATE, descriptor, 0));
-    madvise(text, size, MADV_SEQUENTIAL);
-    Scan(text, text + size);
-    munmap(text, size);
-    close(descriptor);
+    const MappedFile file(iPath);
+    Scan(file.begin(), file.end());
   }
 
   std::vector<int> ids;

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "../support/MappedFile.h"
 
 #include <charconv>
 #include <cstring>
@@ -20,15 +17,8 @@ struct PlainScanner
 
   explicit PlainScanner(const std::string& iPath)
   {
-    const int descriptor = open(iPath.c_str(), O_RDONLY);
-    struct stat facts = {};
-    fstat(descriptor, &facts);
-    const auto size = static_cast<std::size_t>(facts.st_size);
-    char* const text = static_cast<char*>(mmap(nullptr, size, PROT_READ, MAP_PRIVATE, descriptor, 0));
-    madvise(text, size, MADV_SEQUENTIAL);
-    Scan(text, text + size);
-    munmap(text, size);
-    close(descriptor);
+    const MappedFile file(iPath);
+    Scan(file.begin(), file.end());
   }
 
 private:

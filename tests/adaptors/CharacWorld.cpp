@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/adaptors/CharacWorld.h"
 
+#include "tests/adaptors/PrivateDoor.h"
+
 #include <algorithm>
 
 using voxhost::Faults;
@@ -8,21 +10,6 @@ using voxhost::Ledger;
 
 namespace
 {
-
-// A pointer to a private member, handed to Open(Door).
-template <class Door, typename Door::Type Member>
-struct Opens
-{
-  friend typename Door::Type Open(Door) { return Member; }
-};
-
-#define VOX_DOOR(Name, MemberType, Member)                                                                             \
-  struct Name                                                                                                          \
-  {                                                                                                                    \
-    using Type = MemberType;                                                                                           \
-    friend Type Open(Name);                                                                                            \
-  };                                                                                                                   \
-  template struct Opens<Name, Member>
 
 using Adaptor = VOXECharacCollector;
 using Collector = VOXAnalysisCharacCollector;

@@ -8,6 +8,7 @@
 #include "host/Instruments/Faults.h"
 #include "tests/adaptors/Face.h"
 #include "tests/adaptors/ScriptedFeatureAttributes.h"
+#include "tests/support/FatalErrorOf.h"
 
 #include <functional>
 #include <memory>
@@ -182,21 +183,6 @@ private:
     return what;
   }
 };
-
-//! The fatal error that a call ends with; one without text when it returns.
-inline voxhost::CheckReport FatalErrorOf(const std::function<void()>& iCall)
-{
-  const ThrowingFatalErrors fatalErrorsThrow;
-  try
-  {
-    iCall();
-  }
-  catch (const FatalErrorRaised& fatal)
-  {
-    return fatal.report;
-  }
-  return {};
-}
 
 //! A world under a ledger that is balanced at the end.
 template <class World>

@@ -4,6 +4,7 @@
 #include "host/Instruments/Faults.h"
 #include "host/Instruments/Ledger.h"
 #include "tests/adaptors/PlacementWorld.h"
+#include "tests/support/FatalErrorOf.h"
 #include "tests/support/Memory.h"
 
 #include <gtest/gtest.h>
@@ -78,18 +79,10 @@ protected:
   //! The text of the fatal error that a check ends with.
   std::string FatalTextOfCheck()
   {
-    const ThrowingFatalErrors throwing;
-    try
-    {
-      Check("CHILD", "HOLDER");
-    }
-    catch (const FatalErrorRaised& raised)
-    {
-      EXPECT_EQ(raised.report.file, SourceOf("VOXEAnalysisEntityInit"));
-      EXPECT_GT(raised.report.line, 0);
-      return raised.report.text;
-    }
-    return "";
+    const voxhost::CheckReport fatal = FatalErrorOf([this] { Check("CHILD", "HOLDER"); });
+    EXPECT_EQ(fatal.file, SourceOf("VOXEAnalysisEntityInit"));
+    EXPECT_GT(fatal.line, 0);
+    return fatal.text;
   }
 
   //! The set type of a feature of these types; "untouched" when there is none.
@@ -317,18 +310,10 @@ TEST_F(VOXEAnalysisEntityInitTest, TheSetTypeOfWhatIsNoFeatureIsAnAssertion)
 {
   Bench bench;
   const VOXISamAnalysisEntityInit_var spEntity(bench.Component<EntityInit>());
-  const ThrowingFatalErrors throwing;
   VOXUnicodeString setType("untouched");
-  try
-  {
-    spEntity->GetAnalysisSetType(setType);
-    ADD_FAILURE() << "no fatal error";
-  }
-  catch (const FatalErrorRaised& raised)
-  {
-    EXPECT_EQ(raised.report.text, "AssertionFailed:!!spec");
-    EXPECT_EQ(raised.report.file, SourceOf("VOXEAnalysisEntityInit"));
-  }
+  const voxhost::CheckReport fatal = FatalErrorOf([&] { spEntity->GetAnalysisSetType(setType); });
+  EXPECT_EQ(fatal.text, "AssertionFailed:!!spec");
+  EXPECT_EQ(fatal.file, SourceOf("VOXEAnalysisEntityInit"));
 }
 
 TEST_F(VOXEAnalysisEntityInitTest, SensorsAreAggregatedByTheirLateTypeWhateverTheirFeatureType)

@@ -4,6 +4,7 @@
 #include "host/Instruments/Faults.h"
 #include "host/Instruments/Ledger.h"
 #include "tests/adaptors/PlacementWorld.h"
+#include "tests/support/FatalErrorOf.h"
 #include "tests/support/Memory.h"
 
 #include <gtest/gtest.h>
@@ -64,18 +65,10 @@ protected:
 
   std::string FatalTextOfCheck()
   {
-    const ThrowingFatalErrors throwing;
-    try
-    {
-      Check("CHILD", "HOLDER");
-    }
-    catch (const FatalErrorRaised& raised)
-    {
-      EXPECT_EQ(raised.report.file, SourceOf("VOXEAnalysisSetInit"));
-      EXPECT_GT(raised.report.line, 0);
-      return raised.report.text;
-    }
-    return "";
+    const voxhost::CheckReport fatal = FatalErrorOf([this] { Check("CHILD", "HOLDER"); });
+    EXPECT_EQ(fatal.file, SourceOf("VOXEAnalysisSetInit"));
+    EXPECT_GT(fatal.line, 0);
+    return fatal.text;
   }
 
   std::optional<World> world;

@@ -5,6 +5,7 @@
 #include "tests/adaptors/ConnectionWorld.h"
 #include "tests/adaptors/Face.h"
 #include "tests/adaptors/Reported.h"
+#include "tests/support/FatalErrorOf.h"
 #include "tests/support/VirtualTable.h"
 
 #include <optional>
@@ -65,19 +66,10 @@ protected:
   template <class Operation>
   static voxhost::CheckReport Fatal(Operation iOperation)
   {
-    const ThrowingFatalErrors throwing;
-    try
-    {
-      iOperation();
-    }
-    catch (const FatalErrorRaised& raised)
-    {
-      EXPECT_EQ(raised.report.file, "VOXAnalysisAdaptors.m/src/VOXESamConnectionDesignAdaptor");
-      EXPECT_GT(raised.report.line, 0);
-      return raised.report;
-    }
-    ADD_FAILURE() << "nothing fatal";
-    return {};
+    const voxhost::CheckReport fatal = FatalErrorOf(iOperation);
+    EXPECT_EQ(fatal.file, "VOXAnalysisAdaptors.m/src/VOXESamConnectionDesignAdaptor");
+    EXPECT_GT(fatal.line, 0);
+    return fatal;
   }
   voxhost::CheckReport FatalDesigners()
   {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Result files cut off and with changed bytes: those cut off are refused; the others are read or refused with a reason.
+#include "Flipped.h"
 #include "FrdBench.h"
 #include "tests/support/Solver.h"
 
@@ -37,15 +38,7 @@ void ReadDamaged(FrdBench& ioBench, std::string_view iText)
 
 void FlipAndRead(FrdBench& ioBench, const std::string& iText, std::mt19937& ioRandom, int iFlips)
 {
-  static constexpr std::string_view kTelling = " -19\n3E.+\r0";
-  std::string text = iText;
-  for (int flip = 0; flip < iFlips; ++flip)
-  {
-    const std::uint32_t choice = ioRandom();
-    text[ioRandom() % text.size()] =
-        choice % 2 == 0 ? static_cast<char>(choice >> 8) : kTelling[(choice >> 8) % kTelling.size()];
-  }
-  ReadDamaged(ioBench, text);
+  ReadDamaged(ioBench, Flipped(iText, " -19\n3E.+\r0", ioRandom, iFlips));
 }
 
 std::string FileOf(const voxtest::Solved& iSolved)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Decks cut off and with changed bytes: the reader reads or refuses, and its tables hold together.
+#include "Flipped.h"
 #include "InpBench.h"
 
 #include <cstdlib>
@@ -74,15 +75,7 @@ std::vector<std::string> SomeRealDecks()
 
 void FlipAndRead(InpBench& ioBench, const std::string& iText, std::mt19937& ioRandom, int iFlips)
 {
-  static constexpr std::string_view kTelling = "*,\n =0-\"\r\t9S";
-  std::string text = iText;
-  for (int flip = 0; flip < iFlips; ++flip)
-  {
-    const std::uint32_t choice = ioRandom();
-    text[ioRandom() % text.size()] =
-        choice % 2 == 0 ? static_cast<char>(choice >> 8) : kTelling[(choice >> 8) % kTelling.size()];
-  }
-  ReadDamaged(ioBench, text);
+  ReadDamaged(ioBench, Flipped(iText, "*,\n =0-\"\r\t9S", ioRandom, iFlips));
 }
 } // namespace
 
