@@ -146,8 +146,6 @@ protected:
   VOXIExpressionCollector_var spExpressions;
 };
 
-} // namespace
-
 TEST_F(CollectorsOnAnyHost, TheContextIsTheFeaturesObjectAndItsModel)
 {
   VOXAnalysisExplicitParent context;
@@ -261,4 +259,5 @@ TEST_F(CollectorsOnAnyHost, ExpressionsAreAppendedToAListOfTheCallers)
   EXPECT_EQ(list.Delete(), S_OK);
 }
 
+} // namespace
 } // namespace anyhost

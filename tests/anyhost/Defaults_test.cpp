@@ -42,8 +42,6 @@ protected:
   }
 };
 
-} // namespace
-
 TEST_F(DefaultsOnAnyHost, TheAxisIsTheCanonicalOneOfTheHost)
 {
   VOXMathAxis axis{};
@@ -153,4 +151,5 @@ TEST_F(DefaultsOnAnyHost, AnAssertionThatFailsIsTheHostsFatalErrorWithItsExpress
             "AssertionFailed:!!spec");
 }
 
+} // namespace
 } // namespace anyhost

@@ -110,8 +110,6 @@ protected:
   VOXBaseUnknown* feature = nullptr;
 };
 
-} // namespace
-
 TEST_F(GroupOnAnyHost, NodesComeFromTheChildOfTheKindAskedFor)
 {
   AddChild("ELEMENT_GROUP", VOXSamPositionElement, {2});
@@ -267,4 +265,5 @@ TEST_F(GroupOnAnyHost, AFeatureElsewhereIsStampedAsAnyOtherWithTheSourcesPointer
   EXPECT_EQ(pointer, this);
 }
 
+} // namespace
 } // namespace anyhost

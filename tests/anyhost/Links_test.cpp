@@ -81,8 +81,6 @@ protected:
   }
 };
 
-} // namespace
-
 TEST_F(LinksOnAnyHost, AnObjectLeadsToTheFeatureThatProducedIt)
 {
   const VOXAnalysisExplicitEntity group = world->NewObject(NULL_exp, "GROUP");
@@ -206,4 +204,5 @@ TEST_F(LinksOnAnyHost, ASideWithoutDesignerIsNoFailure)
   EXPECT_EQ(supports1.Size() + supports2.Size(), 0);
 }
 
+} // namespace
 } // namespace anyhost

@@ -55,8 +55,6 @@ public:
   static inline VOXBaseUnknown* told = nullptr;
 };
 
-} // namespace
-
 TEST_F(RelianceOnAnyHost, AnExtensionObjectIsAttachedThroughItsOwnOperation)
 {
   VOXExtendLateType<VOXISamFeatureUpgrade, Attached>("Mass");
@@ -302,4 +300,5 @@ TEST_F(RelianceOnAnyHost, RetiringAnUnattachedCollectorLeavesItToItsReferences)
   EXPECT_EQ(collector->Release(), 0); // what lives is counted at the end
 }
 
+} // namespace
 } // namespace anyhost

@@ -47,8 +47,6 @@ VOXBaseUnknown* Ask(VOXBaseUnknown* iFace, const IID& iInterface)
   return static_cast<VOXBaseUnknown*>(face);
 }
 
-} // namespace
-
 TEST_F(RuntimeOnAnyHost, EveryFaceReachesEveryOtherAndAnswersWithTheSameObject)
 {
   const VOXHandle<VOXISamEditionControl> spControl(feature);
@@ -201,4 +199,5 @@ TEST_F(RuntimeOnAnyHost, APositionOutsideOfAListIsFatal)
       [](int iStatus) { return !WIFEXITED(iStatus) || WEXITSTATUS(iStatus) != 0; }, "");
 }
 
+} // namespace
 } // namespace anyhost

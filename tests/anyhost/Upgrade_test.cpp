@@ -53,8 +53,6 @@ protected:
   VOXISamFeatureUpgrade_var spUpgrade;
 };
 
-} // namespace
-
 TEST_F(UpgradeOnAnyHost, AnInstanceHasWhatItsStartUpHas)
 {
   EXPECT_EQ(NamesIn(feature, "SonsList"), (Names{"Pressure", "Height"}));
@@ -147,4 +145,5 @@ TEST_F(UpgradeOnAnyHost, ANullComponentIsAProgrammingError)
   EXPECT_EQ(FatalTextOf([this] { spUpgrade->UpgradeMultiLayer(nullptr); }), "AssertionFailed:ipiBasicComp");
 }
 
+} // namespace
 } // namespace anyhost

@@ -61,8 +61,6 @@ protected:
   }
 };
 
-} // namespace
-
 TEST_F(VisibilityOnAnyHost, AnEntityIsShownUnderItsSet)
 {
   VOXBaseUnknown* const load = New("AnalysisLoad", "load");
@@ -103,4 +101,5 @@ TEST_F(VisibilityOnAnyHost, TheNoShowStatusIsToldToTheViewManagerOnce)
   EXPECT_EQ(spVisibility->IsNoShow(), 1);
 }
 
+} // namespace
 } // namespace anyhost
