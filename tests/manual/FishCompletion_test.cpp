@@ -77,6 +77,12 @@ TEST(FishCompletion, OffersTheFilesThatASubcommandOpensAndFolders)
   EXPECT_THAT(Offered("voxbench import bracket.inp -o "), UnorderedElementsAre("sub/", "kept.voxdoc"));
 }
 
+TEST(FishCompletion, OffersAFileOnceHoweverManyOptionsStandBeforeIt)
+{
+  EXPECT_THAT(Offered("voxbench groups --ids --kind NODE --name=x br"), UnorderedElementsAre("bracket.inp"));
+  EXPECT_THAT(Offered("voxbench groups bracket.inp --ids br"), testing::IsEmpty());
+}
+
 TEST(FishCompletion, KnowsTheSubcommandByItsPlaceAlone)
 {
   EXPECT_THAT(Offered("voxbench owner groups --ki"), testing::IsEmpty());

@@ -20,6 +20,22 @@ function __voxbench_no_command
     test (count (commandline -opc)) -eq 1
 end
 
+# COMMAND PLACE OPTION...: the cursor is at that place among the arguments; the OPTIONs take the word behind them.
+function __voxbench_place
+    __voxbench_command $argv[1]; or return 1
+    set -l words (commandline -opc)
+    set -e words[1..2]
+    set -l place 1
+    set -l before
+    for word in $words
+        if not contains -- "$before" $argv[3..-1]; and not string match -q -- '-*' "$word"
+            set place (math $place + 1)
+        end
+        set before $word
+    end
+    test $place -eq $argv[2]
+end
+
 # Files with one of the endings, and folders.
 function __voxbench_files
     for ending in $argv
@@ -63,6 +79,16 @@ std::string Option(const std::string& iCondition, const ArgumentSyntax& iArgumen
   return line + " -d " + Quoted(iArgument.description) + "\n";
 }
 
+//! " --kind --name": those that take a word, which is then no argument.
+std::string ValuedOptions(const CommandSyntax& iCommand)
+{
+  std::string text;
+  for (const ArgumentSyntax& argument : iCommand.arguments)
+    if (!argument.hasPlace && argument.TakesValue())
+      text += " " + Joined(argument.names);
+  return text;
+}
+
 } // namespace
 
 std::string FishCompletion(const ProgramSyntax& iSyntax)
@@ -81,12 +107,17 @@ std::string FishCompletion(const ProgramSyntax& iSyntax)
 
   for (const CommandSyntax& command : iSyntax.commands)
   {
-    const std::string condition = "__voxbench_command " + command.description.name;
+    const std::string& name = command.description.name;
+    int place = 0;
     for (const ArgumentSyntax& argument : command.arguments)
+    {
+      place += argument.hasPlace ? 1 : 0;
       if (!argument.hasPlace)
-        text += Option(condition, argument);
+        text += Option("__voxbench_command " + name, argument);
       else if (const std::string values = Values(argument); !values.empty())
-        text += fmt::format("complete -c voxbench -n {}{}\n", Quoted(condition), values);
+        text += fmt::format("complete -c voxbench -n '__voxbench_place {} {}{}'{}\n", name, place,
+                            ValuedOptions(command), values);
+    }
   }
   return text;
 }
