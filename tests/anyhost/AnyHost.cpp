@@ -19,7 +19,7 @@ Attribute Sons(std::vector<Component> iComponents = {})
   return {"SonsList", VOXSpecList, VOXSpecComponent, std::move(iComponents)};
 }
 
-Attribute References(const char* iName)
+Attribute ReferenceList(const char* iName)
 {
   return {iName, VOXSpecList, VOXSpecReference};
 }
@@ -40,11 +40,11 @@ const std::vector<Type>& TestTypes()
       {"GroupUnderTest", kExplicit | kEntity, "GROUP", {Tag()}},
       {"ResultUnderTest", kExplicit, "GROUP", {Tag(), {"Step", VOXSpecInteger}}},
       {"SAMImplicitAxes", kExplicit | kEntity, "AXIS", {Tag()}},
-      {"DesignerUnderTest", kSupport | kMeshPartFilter, "", {References("Supports"), References("Designers")}},
+      {"DesignerUnderTest", kSupport | kMeshPartFilter, "", {ReferenceList("Supports"), ReferenceList("Designers")}},
       {"ConnectionUnderTest",
        kEntity,
        "",
-       {References("SAMConnectionDesigner1"), References("SAMConnectionDesigner2")}},
+       {ReferenceList("SAMConnectionDesigner1"), ReferenceList("SAMConnectionDesigner2")}},
 
       {"InputUnderTest", kBasicComponent, "", {Sons()}},
       {"LayersUnderTest",
@@ -65,7 +65,7 @@ const std::vector<Type>& TestTypes()
         {"Title", VOXSpecString},
         {"Closed", VOXSpecBoolean},
         {"Other", VOXSpecReference},
-        References("Others")}},
+        ReferenceList("Others")}},
       {"SuccessorUnderTest",
        0,
        "",
@@ -73,7 +73,7 @@ const std::vector<Type>& TestTypes()
         {"Share", VOXSpecReal},
         {"Title", VOXSpecString},
         {"Closed", VOXSpecBoolean},
-        References("Others"),
+        ReferenceList("Others"),
         Sons()}},
   };
   return types;
