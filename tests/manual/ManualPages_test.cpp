@@ -31,7 +31,7 @@ const ManualPage& PageOf(const std::vector<ManualPage>& iPages, const std::strin
 std::string Shown(const std::string& iSource)
 {
   const std::string file = voxtest::TemporaryFile("page.1", iSource);
-  const std::string text = voxtest::RunShell("mandoc -T ascii -O width=1000 " + file).out;
+  const std::string text = voxtest::RunShell("mandoc -T ascii -O width=1000 " + file + " 2>/dev/null").out;
   std::string shown;
   for (const char letter : text)
     if (letter == '\b')
