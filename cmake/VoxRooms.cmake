@@ -26,3 +26,11 @@ function(vox_add_rooms_below)
     vox_add_room(${folder})
   endforeach()
 endfunction()
+
+# vox_compile_together(<target>): sources of the target in batches, when VOX_UNITY asks for it. Names in their unnamed
+# namespaces must not meet.
+function(vox_compile_together target)
+  if(VOX_UNITY)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
+  endif()
+endfunction()

@@ -3,6 +3,7 @@
 
 #include "VOXSamToolsForExplicitation.h"
 #include "host/ExplicitModel/ExplicitModel.h"
+#include "tests/adaptors/TagOf.h"
 #include "tests/support/Bench.h"
 #include "tests/support/ScriptedAnalysis.h"
 #include "tests/support/ScriptedAttributes.h"
@@ -17,13 +18,6 @@ namespace voxtest
 {
 
 using Tags = std::vector<int>;
-
-inline int TagOf(const VOXAnalysisExplicitChild& iObject)
-{
-  int tag = 0;
-  EXPECT_EQ(iObject.GetTag(tag), S_OK);
-  return tag;
-}
 
 //! An axis set whose object in the model holds three axes: A, which the entity `axisFeature` of the set made, and B and C,
 //! which nobody made. The set knows a factory that makes `made`, and has a father.

@@ -3,6 +3,7 @@
 
 #include "VOXSamToolsForExplicitation.h"
 #include "host/ExplicitModel/ExplicitModel.h"
+#include "tests/adaptors/TagOf.h"
 #include "tests/support/Bench.h"
 #include "tests/support/ScriptedAttributes.h"
 #include "tests/support/ScriptedInterfaces.h"
@@ -15,13 +16,6 @@
 
 namespace voxtest
 {
-
-inline int TagOf(const VOXAnalysisExplicitChild& iObject)
-{
-  int tag = 0;
-  EXPECT_EQ(iObject.GetTag(tag), S_OK);
-  return tag;
-}
 
 inline voxhost::MeshData TwoNodesAndAnElement()
 {

@@ -107,7 +107,7 @@ TEST(AxesCommand, AModelWithoutLocalAxesHasItsGlobalFrame)
   const json output = Axes(voxtest::DataFile("plate_on_block.inp"));
   ASSERT_EQ(output["axes"].size(), 1u);
   EXPECT_EQ(output["axes"][0]["name"], "Global");
-  EXPECT_EQ(output["allImplicitAxis"]["tags"], json({output["axes"][0]["tag"]}));
+  EXPECT_EQ(output["allImplicitAxis"]["tags"], json::array({output["axes"][0]["tag"]}));
 }
 
 } // namespace

@@ -90,12 +90,19 @@ void* AllocateOrThrow(std::size_t iSize)
   throw std::bad_alloc();
 }
 
+// Fills a block, the sanitizers' own mark in front of an array included.
+__attribute__((no_sanitize("address"))) void Fill(volatile unsigned char* oBlock, std::size_t iSize) noexcept
+{
+  for (std::size_t i = 0; i < iSize; ++i)
+    oBlock[i] = kFreed;
+}
+
 void Free(void* iBlock) noexcept
 {
   if (g_watched.on)
     g_watched.Remove(iBlock);
   if (iBlock != nullptr)
-    std::memset(iBlock, kFreed, malloc_usable_size(iBlock)); // what is read after this is seen to be wrong
+    Fill(static_cast<unsigned char*>(iBlock), malloc_usable_size(iBlock)); // what is read after this is seen to be wrong
   std::free(iBlock);
 }
 

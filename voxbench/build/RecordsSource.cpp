@@ -12,7 +12,7 @@ namespace
 
 constexpr const char* kNodePosition = "NODE";
 
-std::size_t BytesOf(const ResultBlock& iBlock)
+std::size_t SizeOf(const ResultBlock& iBlock)
 {
   return static_cast<std::size_t>(iBlock.count) * iBlock.components.size() * sizeof(double);
 }
@@ -113,7 +113,7 @@ bool RecordsSource::Keep(std::size_t iBlock)
     const std::size_t place = iSoFar.blocks.size();
     if (place < iBlock || place >= _Records.blocks.size() || _Records.blocks[place].name != name)
       return false;
-    bytes += BytesOf(_Records.blocks[place]);
+    bytes += SizeOf(_Records.blocks[place]);
     return place == iBlock || bytes <= kBudget;
   };
   ResultRecords again;

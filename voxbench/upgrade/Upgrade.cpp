@@ -18,7 +18,7 @@ using voxhost::Feature;
 
 constexpr std::size_t kReportedEach = 1024;
 
-const VOXBaseUnknown* Face(const Feature& iFeature)
+const VOXBaseUnknown* FaceOf(const Feature& iFeature)
 {
   return static_cast<const VOXBaseUnknown*>(&iFeature);
 }
@@ -123,7 +123,7 @@ private:
 
   void AddComponents(Feature& iFeature)
   {
-    const VOXISamFeatureUpgrade_var spUpgrade(Face(iFeature));
+    const VOXISamFeatureUpgrade_var spUpgrade(FaceOf(iFeature));
     if (!spUpgrade || !spUpgrade->NeedToUpgrade())
       return;
     const auto before = NamesIn(iFeature, kSons);
@@ -133,8 +133,8 @@ private:
 
   void AddLayers(Feature& iFeature)
   {
-    const VOXISamBasicComponent_var spComponent(Face(iFeature));
-    const VOXISamFeatureUpgrade_var spUpgrade(Face(iFeature));
+    const VOXISamBasicComponent_var spComponent(FaceOf(iFeature));
+    const VOXISamFeatureUpgrade_var spUpgrade(FaceOf(iFeature));
     if (!spComponent || !spUpgrade || !spUpgrade->CheckMultiLayer(spComponent))
       return;
     const auto before = NamesIn(iFeature, kValues);
@@ -171,12 +171,12 @@ std::string ReasonFor(const Feature& iFeature)
 {
   if (const std::string replacement = ReplacementOf(iFeature); !replacement.empty())
     return fmt::format("no instance of {} takes its place", replacement);
-  const VOXISamFeatureUpgrade_var spUpgrade(Face(iFeature));
+  const VOXISamFeatureUpgrade_var spUpgrade(FaceOf(iFeature));
   if (!spUpgrade)
     return "";
   if (spUpgrade->NeedToUpgrade())
     return "it lacks a component that its start-up has";
-  const VOXISamBasicComponent_var spComponent(Face(iFeature));
+  const VOXISamBasicComponent_var spComponent(FaceOf(iFeature));
   return !!spComponent && spUpgrade->CheckMultiLayer(spComponent) ? ReasonOfLayers(iFeature) : "";
 }
 

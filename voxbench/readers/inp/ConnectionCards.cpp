@@ -89,7 +89,7 @@ std::int32_t NodeIn(Reading& ioReading, const CardRecord& iCard, const char* iKe
   return node;
 }
 
-ConnectionKind KindOf(const std::string& iKeyword)
+ConnectionKind ConnectionKindOf(const std::string& iKeyword)
 {
   static constexpr std::pair<const char*, ConnectionKind> kKinds[] = {
       {"CONTACTPAIR", ConnectionKind::ContactPair},
@@ -184,7 +184,7 @@ void ReadMultiPointConstraint(Reading& ioReading, CardRecord& ioCard)
 
 void ReadConnection(Reading& ioReading, CardRecord& ioCard)
 {
-  const ConnectionKind kind = KindOf(ioCard.keyword);
+  const ConnectionKind kind = ConnectionKindOf(ioCard.keyword);
   ioReading.TakeData(ioCard);
   std::vector<CardRecord> parts;
   if (kind == ConnectionKind::ContactPair && ioCard.data.size() > 1)

@@ -33,7 +33,7 @@ void ReportNoName(Reading& ioReading, const CardRecord& iCard)
     ioReading.Report(Severity::Error, iCard.where, "the card has no NAME.");
 }
 
-SectionKind KindOf(const std::string& iKeyword)
+SectionKind SectionKindOf(const std::string& iKeyword)
 {
   static constexpr std::pair<const char*, SectionKind> kKinds[] = {{"SHELLSECTION", SectionKind::Shell},
                                                                    {"MEMBRANESECTION", SectionKind::Membrane},
@@ -113,7 +113,7 @@ void ReadProperty(Reading& ioReading, CardRecord& ioCard)
 void ReadSection(Reading& ioReading, CardRecord& ioCard)
 {
   Section& section = ioReading.model.sections.emplace_back();
-  section.kind = KindOf(ioCard.keyword);
+  section.kind = SectionKindOf(ioCard.keyword);
   const bool blankLinesCount = section.kind == SectionKind::Spring || section.kind == SectionKind::Dashpot;
   ioReading.TakeData(ioCard, blankLinesCount); // a blank line stands where degrees of freedom might
   section.card = std::move(ioCard);
