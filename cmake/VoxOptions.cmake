@@ -5,7 +5,7 @@ option(VOX_BUILD_VOXBENCH "Build the workbench and its readers" ${PROJECT_IS_TOP
 option(VOX_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(VOX_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(VOX_INSTALL "Install rules, and packages" ${PROJECT_IS_TOP_LEVEL})
-option(VOX_UNITY "Compile sources of a room together: sooner done as a whole, later after a change" OFF)
+option(VOX_UNITY "Compile sources of a room together: sooner done as a whole, later after a change" ${PROJECT_IS_TOP_LEVEL})
 option(VOX_WERROR "Treat compiler warnings as errors" OFF)
 
 set(VOX_SANITIZE "" CACHE STRING "Sanitizers for the whole build, for example address;undefined")
