@@ -80,7 +80,7 @@ std::string Value(const ArgumentSyntax& iArgument)
   return ":" + label + ":" + action;
 }
 
-//! One specification per name; an option excludes its other names, unless it may be repeated.
+//! One entry per name; an option excludes its other names, unless it may be repeated.
 std::string Option(const ArgumentSyntax& iArgument)
 {
   std::vector<std::string> excluded = iArgument.excludes;
