@@ -16,7 +16,7 @@ add_custom_target(vox_both_compilers)
 #                   `./dev test --quick` leaves them out.
 #   BOTH_COMPILERS  its cases run in the plain clang++ build as well (label `both-compilers`): what compiled code relies on.
 #                   Under the sanitizers all cases run with clang++.
-#   Paths known to the code: VOX_SOURCE_DIR, VOX_DECKS_DIR (overruled at run time by the environment's VOX_DECKS),
+#   Paths known to the code of the others: VOX_SOURCE_DIR, VOX_DECKS_DIR (overruled at run time by the environment's VOX_DECKS),
 #   VOX_TEST_DIR (the folder of the test's CMakeLists.txt), and VOXBENCH_PROGRAM once the workbench is built.
 function(vox_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 test "ALONE;SLOW;BOTH_COMPILERS" "" "SOURCES;LIBS")
@@ -31,7 +31,9 @@ function(vox_add_test name)
   target_link_libraries(${name} PRIVATE ${test_LIBS} GTest::gmock GTest::gtest_main vox::warnings)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_compile_options(${name} PRIVATE -O0) # optimised and sanitized, a file of cases takes three times as long to compile
-  vox_give_test_paths(${name})
+  if(NOT test_BOTH_COMPILERS) # what compiled code relies on needs no program
+    vox_give_test_paths(${name})
+  endif()
 
   get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
   set(labels ${folder})
