@@ -2,6 +2,7 @@
 // Every deck of the package that is installed, whoever wrote it.
 #include "InpBench.h"
 #include "PlainParser.h"
+#include "tests/support/Sanitized.h"
 
 #include <cstdlib>
 #include <map>
@@ -100,8 +101,10 @@ TEST(InpDecks, SetsAndSurfacesHaveTheMembersThatAPlainReadingFinds)
 {
   const auto decks = AllDecks();
   ASSERT_FALSE(decks.empty()) << kNoDecks << DeckFolder();
-  for (const auto& deck : decks)
+  // Another case reads all decks under the sanitizers; the plain reading takes most of the time there.
+  for (std::size_t place = 0; place < decks.size(); place += voxtest::kIsSanitized ? 3 : 1)
   {
+    const auto& deck = decks[place];
     InpBench bench;
     bench.ReadFile(deck);
     if (!bench.outcome.ok)

@@ -124,7 +124,7 @@ TEST_F(AllDecksSlow, InfoTellsAboutEachOrSaysWhyNot)
 
 TEST_F(AllDecksSlow, TheTreeOfEachHasAllItsGroups)
 {
-  for (const std::string& deck : decks)
+  for (const std::string& deck : PartOf(decks, 3))
   {
     const auto tree = voxtest::RunInProcess({"tree", deck});
     const auto groups = voxtest::RunInProcess({"groups", deck, "--json"});
@@ -172,7 +172,7 @@ void CompareDocuments(const std::vector<std::string>& iDecks, const char* iRelea
 {
   constexpr std::uintmax_t kLargest = 1000000;
   const std::string document = voxtest::TemporaryFile("documents/deck.voxdoc", "");
-  for (const std::string& deck : PartOf(iDecks, 15))
+  for (const std::string& deck : PartOf(iDecks, 20))
   {
     if (std::filesystem::file_size(deck) > kLargest ||
         voxtest::RunInProcess({"import", deck, "-o", document, "--force", "--catalogue", iRelease}).code != 0)
@@ -234,7 +234,7 @@ TEST_F(AllDecksSlow, TheCheckOfAllFindsWhatTheGoldenListCounts)
 
 TEST_F(AllDecksSlow, TheHostGetsBackAllThatItGave)
 {
-  for (const std::string& deck : decks)
+  for (const std::string& deck : PartOf(decks, 3))
   {
     const auto before = voxhost::Ledger::Read();
     voxtest::RunInProcess({"tree", deck});
