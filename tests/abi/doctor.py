@@ -93,14 +93,14 @@ class Build:
     """What is known of the build, and the folder of one doctored copy."""
 
     def __init__(self, settings, name):
-        self.__dict__.update(settings)  # source, build, compiler, compiler_id, library, host, gtest, baseline
+        self.__dict__.update(settings)  # source, build, compiler, compiler_id, built, host, gtest, baseline
         self.folder = Path(self.build) / "tests/abi/doctored" / name
         self.headers = self.folder / "include"
         self.header = None  # the doctored one, as it is included
         self.more_flags = ["-Wno-error"]  # what is doctored need not be tidy
         self.map = Path(self.source) / "VOXAnalysisResources/exports.map"
         self.include_folders = [Path(self.source) / "VOXAnalysisResources/include", Path(self.source) / "contracts"]
-        self.copy = self.folder / Path(self.library).name
+        self.copy = self.folder / Path(self.built).name
         commands = json.loads((Path(self.build) / "compile_commands.json").read_text(encoding="utf-8"))
         self.commands = {entry["file"]: shlex.split(entry["command"]) for entry in commands}
 

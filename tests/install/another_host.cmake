@@ -30,3 +30,10 @@ run(${CMAKE_COMMAND} --build ${PLACE}/library --parallel 2)
 
 # That headers compile alone is no matter of the host.
 run(${CMAKE_CTEST_COMMAND} --test-dir ${PLACE}/library --no-tests=error --parallel 2 -LE "headers|slow")
+
+# Installed beside that host, the library is found with it.
+run(${CMAKE_COMMAND} --install ${PLACE}/library --prefix ${PLACE}/prefix)
+run(${CMAKE_COMMAND} -S ${SOURCES}/tests/install/on_another_host -B ${PLACE}/user ${common}
+    -DCMAKE_PREFIX_PATH=${PLACE}/prefix)
+run(${CMAKE_COMMAND} --build ${PLACE}/user)
+run(${CMAKE_CTEST_COMMAND} --test-dir ${PLACE}/user --no-tests=error)

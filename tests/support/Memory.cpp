@@ -102,7 +102,8 @@ void Free(void* iBlock) noexcept
   if (g_watched.on)
     g_watched.Remove(iBlock);
   if (iBlock != nullptr)
-    Fill(static_cast<unsigned char*>(iBlock), malloc_usable_size(iBlock)); // what is read after this is seen to be wrong
+    Fill(static_cast<unsigned char*>(iBlock),
+         malloc_usable_size(iBlock)); // what is read after this is seen to be wrong
   std::free(iBlock);
 }
 
