@@ -30,8 +30,7 @@ function(vox_add_test name)
   add_executable(${name} ${test_SOURCES})
   target_link_libraries(${name} PRIVATE ${test_LIBS} GTest::gmock GTest::gtest_main vox::warnings)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
-  # Optimised and sanitized whole, a file of cases takes three times as long to compile. What it calls is watched whole.
-  target_compile_options(${name} PRIVATE -O0 $<$<BOOL:${VOX_SANITIZE}>:-fno-sanitize=null,alignment,object-size>)
+  vox_compile_as_test_code(${name})
   if(NOT test_BOTH_COMPILERS) # what compiled code relies on needs no program
     vox_give_test_paths(${name})
   endif()
@@ -51,6 +50,11 @@ function(vox_add_test name)
     vox_discover_cases(${name} "-*Slow.*" ${labels})
     vox_discover_cases(${name} "*Slow.*" ${labels} slow)
   endif()
+endfunction()
+
+# Optimised and sanitized whole, a file of cases takes three times as long to compile. What it calls is watched whole.
+function(vox_compile_as_test_code target)
+  target_compile_options(${target} PRIVATE -O0 $<$<BOOL:${VOX_SANITIZE}>:-fno-sanitize=null,alignment,object-size>)
 endfunction()
 
 # vox_batch_cases(<name> <list of sources>): puts sources of eight *_test.cpp each in their place, see BatchCases.cmake.

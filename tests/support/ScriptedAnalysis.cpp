@@ -3,15 +3,6 @@
 
 namespace voxtest
 {
-namespace
-{
-
-std::string Text(const VOXUnicodeString& iText)
-{
-  return static_cast<const char*>(iText);
-}
-
-} // namespace
 
 VOXListValVOXBaseUnknown_var* NewList(const Objects& iObjects)
 {
@@ -45,7 +36,7 @@ HRESULT ScriptedAnalysisEntity::ListShownUnder(VOXListValVOXBaseUnknown_var*& oF
 
 HRESULT ScriptedAnalysisEntity::ListByRole(VOXListValVOXBaseUnknown_var*& oObjects, const VOXUnicodeString& iRole) const
 {
-  const std::string role = Text(iRole);
+  const std::string role = iRole.ConvertToChar();
   if (CallLog::Enter("VOXISamAnalysisEntity::ListByRole", role))
     return E_FAIL;
   const AnalysisEntityScript& told = Told();
@@ -70,10 +61,10 @@ HRESULT ScriptedAnalysisSet::GetMemberByName(const VOXUnicodeString& iName, VOXI
                                              int iMode) const
 {
   oMember = NULL_var;
-  if (CallLog::Enter("VOXISamAnalysisSet::GetMemberByName", Text(iName), iMode))
+  if (CallLog::Enter("VOXISamAnalysisSet::GetMemberByName", iName.ConvertToChar(), iMode))
     return E_FAIL;
   const auto& members = Told().membersByName;
-  if (const auto found = members.find(Text(iName)); found != members.end())
+  if (const auto found = members.find(iName.ConvertToChar()); found != members.end())
     oMember = found->second;
   return S_OK;
 }

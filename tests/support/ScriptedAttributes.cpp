@@ -6,23 +6,18 @@ namespace voxtest
 namespace
 {
 
-const char* Text(const VOXUnicodeString& iText)
-{
-  return iText.ConvertToChar();
-}
-
 std::string NameOf(const VOXISpecAttrKey* iKey)
 {
-  return iKey == nullptr ? "no key" : Text(iKey->GetName());
+  return iKey == nullptr ? "no key" : iKey->GetName().ConvertToChar();
 }
 
 } // namespace
 
 VOXISpecAttrKey* ScriptedAttrAccess::GetAttrKey(const VOXUnicodeString& iName) const
 {
-  if (CallLog::Enter("VOXISpecAttrAccess::GetAttrKey", Text(iName)))
+  if (CallLog::Enter("VOXISpecAttrAccess::GetAttrKey", iName.ConvertToChar()))
     return nullptr;
-  const auto found = Told().keys.find(Text(iName));
+  const auto found = Told().keys.find(iName.ConvertToChar());
   const VOXISpecAttrKey_var spKey(found == Told().keys.end() ? nullptr : found->second);
   if (!!spKey)
     spKey->AddRef();
@@ -49,7 +44,7 @@ VOXBaseUnknown* ScriptedModelFactory::CreateEntity(const VOXUnicodeString& iName
 {
   const auto father = Told().fatherNames.find(iFather);
   const std::string fatherName = father == Told().fatherNames.end() ? "?" : father->second;
-  if (CallLog::Enter("VOXISamAnalysisModelFactory::CreateEntity", Text(iName), Text(iType),
+  if (CallLog::Enter("VOXISamAnalysisModelFactory::CreateEntity", iName.ConvertToChar(), iType.ConvertToChar(),
                      iFather == nullptr ? "no father" : fatherName) ||
       Told().entity == nullptr)
     return nullptr;

@@ -8,11 +8,6 @@ namespace voxtest
 namespace
 {
 
-const char* Text(const VOXUnicodeString& iText)
-{
-  return iText.ConvertToChar();
-}
-
 //! One reference for the caller.
 template <class T>
 T* Counted(T* iObject)
@@ -85,7 +80,7 @@ HRESULT ScriptedExplicit::SetExplicitState(int iState)
 
 int ScriptedSpecObject::IsSubTypeOf(const VOXUnicodeString& iType) const
 {
-  if (CallLog::Enter("VOXISpecObject::IsSubTypeOf", Text(iType)))
+  if (CallLog::Enter("VOXISpecObject::IsSubTypeOf", iType.ConvertToChar()))
     return 0;
   const auto isAsked = [&iType](const std::string& iOwn) { return iType == iOwn.c_str(); };
   const SpecObjectScript& told = Told();
@@ -137,7 +132,7 @@ VOXISpecObject* ScriptedSpecObject::Instantiate(const VOXUnicodeString& iName, c
                                                 VOXBaseUnknown* iContext)
 {
   const bool fails =
-      CallLog::Enter("VOXISpecObject::Instantiate", Text(iName), iContext == nullptr ? "null" : "context");
+      CallLog::Enter("VOXISpecObject::Instantiate", iName.ConvertToChar(), iContext == nullptr ? "null" : "context");
   return fails ? nullptr : Counted(Told().instance);
 }
 
@@ -155,8 +150,8 @@ VOXUnicodeString ScriptedSpecObject::GetIdentifyingString() const
 
 void ScriptedSpecObject::SetIdentifyingString(const VOXUnicodeString& iString)
 {
-  if (!CallLog::Enter("VOXISpecObject::SetIdentifyingString", Text(iString)))
-    Told().identifyingString = Text(iString);
+  if (!CallLog::Enter("VOXISpecObject::SetIdentifyingString", iString.ConvertToChar()))
+    Told().identifyingString = iString.ConvertToChar();
 }
 
 std::int32_t ScriptedSpecObject::GetTimeStamp() const
@@ -177,7 +172,8 @@ HRESULT ScriptedSpecObject::RemoveComponent(const VOXBaseUnknown_var&, int iMode
 HRESULT ScriptedSpecObject::HandOver(const VOXUnicodeString& iFromAttribute, const VOXISpecObject_var&,
                                      const VOXUnicodeString& iToAttribute)
 {
-  const bool fails = CallLog::Enter("VOXISpecObject::HandOver", Text(iFromAttribute), Text(iToAttribute));
+  const bool fails =
+      CallLog::Enter("VOXISpecObject::HandOver", iFromAttribute.ConvertToChar(), iToAttribute.ConvertToChar());
   return fails ? E_FAIL : Told().handOverResult;
 }
 

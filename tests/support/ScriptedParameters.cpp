@@ -3,15 +3,6 @@
 
 namespace voxtest
 {
-namespace
-{
-
-const char* Text(const VOXUnicodeString& iText)
-{
-  return iText.ConvertToChar();
-}
-
-} // namespace
 
 std::string ScriptedListedComponent::NameOf(const VOXBaseUnknown* iObject) const
 {
@@ -25,7 +16,7 @@ HRESULT ScriptedListedComponent::GetValue(VOXBaseUnknown_var& oValue, const VOXU
                                           int iRow, int iLayer) const
 {
   oValue = NULL_var;
-  if (CallLog::Enter("VOXISamBasicComponent::GetValue", Text(iQualifier), iValue, iRow, iLayer))
+  if (CallLog::Enter("VOXISamBasicComponent::GetValue", iQualifier.ConvertToChar(), iValue, iRow, iLayer))
     return E_FAIL;
   if (Told().whenAskedForValue)
     Told().whenAskedForValue();
@@ -36,7 +27,8 @@ HRESULT ScriptedListedComponent::GetValue(VOXBaseUnknown_var& oValue, const VOXU
 HRESULT ScriptedListedComponent::CreateSubComponent(const VOXUnicodeString& iType, const VOXUnicodeString& iQualifier,
                                                     const VOXBaseUnknown_var& iKind)
 {
-  if (CallLog::Enter("VOXISamBasicComponent::CreateSubComponent", Text(iType), Text(iQualifier), NameOf(iKind)))
+  if (CallLog::Enter("VOXISamBasicComponent::CreateSubComponent", iType.ConvertToChar(), iQualifier.ConvertToChar(),
+                     NameOf(iKind)))
     return E_FAIL;
   if (Told().whenCreated)
     Told().whenCreated();
@@ -46,7 +38,7 @@ HRESULT ScriptedListedComponent::CreateSubComponent(const VOXUnicodeString& iTyp
 HRESULT ScriptedListedComponent::ListSubComponents(VOXListValVOXBaseUnknown_var*& oComponents,
                                                    const VOXUnicodeString& iFilter) const
 {
-  if (CallLog::Enter("VOXISamBasicComponent::ListSubComponents", Text(iFilter)))
+  if (CallLog::Enter("VOXISamBasicComponent::ListSubComponents", iFilter.ConvertToChar()))
     return E_FAIL;
   oComponents = Told().subComponents ? NewList(*Told().subComponents) : nullptr;
   if (Told().whenListed && oComponents != nullptr)
