@@ -4,6 +4,7 @@
 #include "tests/adaptors/PrivateDoor.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 using voxhost::Faults;
 using voxhost::Ledger;
@@ -194,6 +195,40 @@ VOXAnalysisCollectorArchiver* CharacArea::Entry(const VOXECharacCollector& iAdap
                                                 int iPosition)
 {
   return (iAdaptor.*Open(ArchiversDoor()))[iType][iSlot][iPosition];
+}
+
+void CharacArea::Lose(VOXECharacCollector& ioAdaptor, Array iArray)
+{
+  std::int32_t*& slots = ioAdaptor.*Open(SlotsDoor());
+  std::int32_t**& positions = ioAdaptor.*Open(PositionsDoor());
+  Archiver**** const archivers = ioAdaptor.*Open(ArchiversDoor());
+  const auto lose = [](auto*& ioLost)
+  {
+    std::free(ioLost);
+    ioLost = nullptr;
+  };
+  const auto loseArchivers = [&](int iType)
+  {
+    for (int s = 0; s < slots[iType]; ++s)
+      lose(archivers[iType][s]);
+  };
+  const int nbTypes = Types(ioAdaptor);
+  switch (iArray)
+  {
+  case Array::VersionSlots: // whoever counts them no more finds no archivers behind them
+    for (int t = 0; t < nbTypes; ++t)
+      loseArchivers(t);
+    return lose(slots);
+  case Array::Positions:
+    for (int t = 0; t < nbTypes; ++t)
+      lose(positions[t]);
+    return lose(positions);
+  case Array::PositionsOfTheFirstType:
+    return lose(positions[0]);
+  case Array::ArchiversOfTheFirstType:
+    loseArchivers(0);
+    return lose(archivers[0]);
+  }
 }
 
 std::vector<std::ptrdiff_t> CharacArea::Offsets(const VOXECharacCollector& iAdaptor)

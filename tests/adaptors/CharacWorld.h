@@ -158,6 +158,15 @@ struct CharacArea
   static int Slots(const VOXECharacCollector& iAdaptor, int iType);
   static int Positions(const VOXECharacCollector& iAdaptor, int iType, int iSlot);
   static VOXAnalysisCollectorArchiver* Entry(const VOXECharacCollector& iAdaptor, int iType, int iSlot, int iPosition);
+  //! Frees an array of a built area that keeps no archiver, and leaves null in its place.
+  enum class Array
+  {
+    VersionSlots,
+    Positions,
+    PositionsOfTheFirstType,
+    ArchiversOfTheFirstType
+  };
+  static void Lose(VOXECharacCollector& ioAdaptor, Array iArray);
   //! The offsets of the members, in their order.
   static std::vector<std::ptrdiff_t> Offsets(const VOXECharacCollector& iAdaptor);
 

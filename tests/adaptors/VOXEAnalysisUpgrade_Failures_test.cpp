@@ -195,6 +195,17 @@ TEST_F(UpgradeOrder, AComponentOfTheStartUpThatIsNoFeatureIsNotAddedNorTraced)
   EXPECT_EQ(log.Only({"SAMTrace", "VOXISpecObject::Instantiate", "VOXSpecPub"}), Calls{});
 }
 
+TEST_F(UpgradeOrder, AfterAComponentOfTheStartUpThatIsNoFeatureTheRestIsStillAdded)
+{
+  Bench bench;
+  VOXBaseUnknown* const bare = bench.Component<ScriptedBasicComponent>();
+  ScriptedBasicComponent::ScriptOf(bare).name = "C";
+  LabelledAccess::ScriptOf(world->startUp).lists["SonsList"] = {bare, FaceOf<VOXISamBasicComponent>(world->startUpSon)};
+  const CallLog log;
+  EXPECT_EQ(upgrade->Upgrade(), S_OK);
+  EXPECT_EQ(log.Only({"VOXISpecObject::Instantiate"}), Calls{"VOXISpecObject::Instantiate(A, null)"});
+}
+
 TEST_F(UpgradeOrder, ANewObjectThatIsNoBasicComponentIsUpdatedAndThenLeft)
 {
   Bench bench;
@@ -245,6 +256,15 @@ TEST_F(UpgradeOrder, WhatCannotBeMissingIsAsserted)
   ScriptedSpecObject::ScriptOf(withoutAccess).container = FaceOf<VOXIContainer>(world->container);
   upgrade = FaceOf<VOXISamFeatureUpgrade>(withoutAccess);
   bothSay("AssertionFailed:piAccessThis");
+}
+
+TEST_F(UpgradeOrder, TheFeatureIsAskedForItsAttributesBeforeTheStartUp)
+{
+  Bench bench;
+  VOXBaseUnknown* const withoutAccess = bench.Component<UpgradeTie, ScriptedSpecObject>();
+  ScriptedSpecObject::ScriptOf(withoutAccess).startUp = FaceOf<VOXISpecObject>(bench.Component<ScriptedSpecObject>());
+  upgrade = FaceOf<VOXISamFeatureUpgrade>(withoutAccess);
+  EXPECT_EQ(FatalErrorOf([this] { upgrade->NeedToUpgrade(); }).text, "AssertionFailed:piAccessThis");
 }
 
 namespace

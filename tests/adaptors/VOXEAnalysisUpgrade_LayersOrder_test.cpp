@@ -142,6 +142,88 @@ TEST_F(LayeredOrder, WhatIsNoFeatureNeedsNoUpgradeAndGetsNone)
   EXPECT_EQ(log.All(), Calls{"VOXBaseUnknown::QueryInterface"});
 }
 
+TEST_F(LayeredOrder, WhatIsNoFeatureIsAskedForItsDimensionsAllTheSame)
+{
+  VOXBaseUnknown* const bare = world->bench.Component<ScriptedBasicComponent>();
+  const VOXISamBasicComponent* const component = FaceOf<VOXISamBasicComponent>(bare);
+  const CallLog log;
+  EXPECT_FALSE(upgrade->CheckMultiLayer(component));
+  EXPECT_EQ(log.All(), (Calls{"VOXISamBasicComponent::GetDimensions()", "VOXBaseUnknown::QueryInterface"}));
+}
+
+namespace
+{
+
+// A component that tells what it finds in the dimensions, and leaves them so.
+class PresetReader : public ScriptedBasicComponent
+{
+public:
+  HRESULT GetDimensions(int& oValues, int& oRows, int& oLayers, const VOXUnicodeString&) const override
+  {
+    CallLog::Enter("preset", oValues, oRows, oLayers);
+    return S_OK;
+  }
+};
+
+} // namespace
+
+TEST_F(LayeredOrder, EveryDimensionStartsAtZero)
+{
+  const VOXISamBasicComponent* const component = FaceOf<VOXISamBasicComponent>(world->bench.Component<PresetReader>());
+  const CallLog log;
+  upgrade->CheckMultiLayer(component);
+  EXPECT_EQ(log.Only({"preset"}), Calls{"preset(0, 0, 0)"});
+}
+
+TEST_F(LayeredOrder, TheStartUpGoesBackBeforeItsDimensionsAreAskedFor)
+{
+  const CallLog log(CallLog::References::Recorded);
+  upgrade->CheckMultiLayer(basic);
+  EXPECT_EQ(log.Only({"Release VOXISpecObject of start-up", "VOXISamBasicComponent::GetDimensions"}),
+            (Calls{"VOXISamBasicComponent::GetDimensions()", "Release VOXISpecObject of start-up",
+                   "VOXISamBasicComponent::GetDimensions()"}));
+}
+
+TEST_F(LayeredOrder, WhoseValuesAreReadGoesBackBeforeTheKeyIsAskedFor)
+{
+  const VOXISpecObject* const spec = FaceOf<VOXISpecObject>(world->component);
+  const CallLog log(CallLog::References::Recorded);
+  delete UpgradeTie::AdaptorOf(world->tied).GetValuesOnInstanceOrStartup(false, spec);
+  EXPECT_EQ(log.Only({"Release VOXISpecObject", "VOXISpecAttrAccess::GetAttrKey"}),
+            (Calls{"Release VOXISpecObject of instance", "VOXISpecAttrAccess::GetAttrKey(Values)"}));
+}
+
+TEST_F(LayeredOrder, WhoseValuesAreReadGoesBackBeforeItsMissingAccessIsAsserted)
+{
+  VOXBaseUnknown* const blind = world->bench.Component<LabelledSpecObject>();
+  Labels::Of(blind) = "blind";
+  const VOXISpecObject* const spec = FaceOf<VOXISpecObject>(blind);
+  const CallLog log(CallLog::References::Recorded);
+  FatalErrorOf(
+      [&]
+      {
+        voxhost::ErrorLog::SetFatalHandler(
+            [](const voxhost::CheckReport& iReport)
+            {
+              CallLog::Note(iReport.text);
+              throw FatalErrorRaised{iReport};
+            });
+        UpgradeTie::AdaptorOf(world->tied).GetValuesOnInstanceOrStartup(false, spec);
+      });
+  EXPECT_EQ(log.Only({"Release VOXISpecObject", "AssertionFailed"}),
+            (Calls{"Release VOXISpecObject of blind", "AssertionFailed:piAccessThis"}));
+}
+
+TEST_F(LayeredOrder, WithoutTheKeyOfValuesTheOwnValuesAreNotListed)
+{
+  ScriptedLayers::AccessOf(world->component).keys.erase("Values");
+  const CallLog log;
+  EXPECT_EQ(upgrade->UpgradeMultiLayer(basic), S_OK);
+  EXPECT_EQ(log.Only({"VOXISpecAttrAccess::ListSpecObjects"}),
+            Calls{"VOXISpecAttrAccess::ListSpecObjects(Values, VOXISamBasicComponent)"})
+      << "those of the start-up";
+}
+
 TEST_F(LayeredOrder, AnUpgradeTakesItsStepsInOrder)
 {
   const TracesNoted traces;

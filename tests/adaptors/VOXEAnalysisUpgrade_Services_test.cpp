@@ -120,6 +120,17 @@ TEST_F(UpgradeFinding, AComponentThatIsNoFeatureIsFoundByItsNameAlone)
   EXPECT_TRUE(adaptor.FindInList("AB", list));
 }
 
+TEST_F(UpgradeFinding, AComponentThatIsNoFeatureDoesNotEndTheScan)
+{
+  Bench bench;
+  VOXBaseUnknown* const component = bench.Component<ScriptedBasicComponent>();
+  ScriptedBasicComponent::ScriptOf(component).name = "AB";
+  VOXListValVOXBaseUnknown_var list;
+  list.Append(VOXBaseUnknown_var(component));
+  list.Append(VOXBaseUnknown_var(UpgradeWorld::Face(world->Put(load, "A"))));
+  EXPECT_TRUE(adaptor.FindInList("A", list));
+}
+
 TEST_F(UpgradeFinding, TheFirstHitEndsTheScan)
 {
   for (const char* const name : {"X", "A", "A.1", "Y"})

@@ -238,6 +238,93 @@ TEST_F(VOXECharacCollectorArchivers, KeepingOneAsksForNoTimeStamp)
 namespace
 {
 
+// A feature type that notes the queries that go to itself, not to its implementation.
+class Questioned : public ScriptedCharac
+{
+public:
+  using ScriptedCharac::QueryInterface;
+  HRESULT QueryInterface(const IID& iInterface, void** oFace) override
+  {
+    CallLog::Note("own query");
+    return ScriptedCharac::QueryInterface(iInterface, oFace);
+  }
+};
+
+// One that may keep silent, with success.
+class Reticent : public ScriptedCharac
+{
+public:
+  static inline const char* silentAbout = "";
+
+  HRESULT GetAvailablePhysicalTypes(int& oNbTypes, const int*& oTypes, const void*& oReserved) override
+  {
+    return IsSilent("types") ? S_OK : ScriptedCharac::GetAvailablePhysicalTypes(oNbTypes, oTypes, oReserved);
+  }
+  HRESULT GetAvailableVersions(int iType, int& oNbVersions, const VOXSamCharacVersion*& oVersions) override
+  {
+    return IsSilent("versions") ? S_OK : ScriptedCharac::GetAvailableVersions(iType, oNbVersions, oVersions);
+  }
+  HRESULT GetAvailablePositions(int iType, const VOXSamCharacVersion& iVersion, int& oNbPositions,
+                                const VOXString*& oPositions) override
+  {
+    return IsSilent("positions") ? S_OK
+                                 : ScriptedCharac::GetAvailablePositions(iType, iVersion, oNbPositions, oPositions);
+  }
+
+private:
+  static bool IsSilent(std::string_view iAbout) { return silentAbout == iAbout; }
+};
+
+} // namespace
+
+TEST_F(VOXECharacCollectorArchivers, WhatTheFeatureOffersAndItsTimeStampAreAskedOfTheImplementation)
+{
+  Bench bench;
+  VOXBaseUnknown* const feature = bench.Component<CharacTie<Questioned>, ScriptedSpecObject>();
+  const VOXICharacCollector_var spCollector(feature);
+  Questioned& adaptor = CharacTie<Questioned>::AdaptorOf(spCollector);
+  VOXAnalysisCollectorArchiver& archiver = world->NewArchiver();
+  const CallLog log;
+  EXPECT_EQ(adaptor.SetCollectorArchiver(11, Version(1), "NODE", &archiver), S_OK);
+  EXPECT_EQ(adaptor.GetCollectorArchiver(11, Version(1), "NODE", given), S_OK);
+  EXPECT_EQ(log.Count("VOXISpecObject::GetTimeStamp"), 1);
+  EXPECT_EQ(log.Count("own query"), 0);
+}
+
+TEST_F(VOXECharacCollectorArchivers, OneIsStampedByTheImplementation)
+{
+  Bench bench;
+  VOXBaseUnknown* const feature = bench.Component<CharacTie<Questioned>, ScriptedExplicit, ScriptedSpecObject>();
+  ScriptedExplicit::ScriptOf(feature).model = &world->Model();
+  ScriptedExplicit::ScriptOf(feature).parents = {world->Entity()};
+  const VOXICharacCollector_var spCollector(feature);
+  Questioned& adaptor = CharacTie<Questioned>::AdaptorOf(spCollector);
+  const VOXAnalysisCharacCollector& collector = world->NewCollector();
+  ArchiverSwitches::SetNewAreStreamable(false); // made, and not kept
+  const CallLog log;
+  EXPECT_EQ(adaptor.AssignArchiverToCollector(&collector, CollectorArchiveOnDemand), S_OK);
+  EXPECT_EQ(log.Count("VOXISpecObject::GetTimeStamp"), 1);
+  EXPECT_EQ(log.Count("own query"), 2) << "the alias and the explicit face, for the context";
+}
+
+TEST_F(VOXECharacCollectorArchivers, AnAnswerThatSaysNothingOffersNothing)
+{
+  Bench bench;
+  VOXBaseUnknown* const feature = bench.Component<CharacTie<Reticent>>();
+  const VOXICharacCollector_var spCollector(feature);
+  Reticent& adaptor = CharacTie<Reticent>::AdaptorOf(spCollector);
+  EXPECT_EQ(CharacArea::Build(adaptor), S_OK);
+  for (const char* const about : {"types", "versions", "positions"})
+  {
+    Reticent::silentAbout = about;
+    EXPECT_EQ(CharacArea::Locate(adaptor, 11, Version(1), "NODE"), (CharacArea::Place{S_OK, -1, -1, -1})) << about;
+  }
+  Reticent::silentAbout = "";
+}
+
+namespace
+{
+
 class VOXECharacCollectorNumbering : public CharacTest
 {
 protected:

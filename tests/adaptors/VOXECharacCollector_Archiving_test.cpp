@@ -71,6 +71,55 @@ TEST_F(VOXECharacCollectorArchiving, ACollectorThatCannotTellIsPropagatedAndCoun
   }
 }
 
+namespace
+{
+
+// A collector of another making: it has values, and says of its entities what it is told.
+class ToldCollector : public VOXAnalysisCharacCollector
+{
+public:
+  ToldCollector(int iNumber, const unsigned char* iFlags) : _Number(iNumber), _Flags(iFlags)
+  {
+    const double value = 1.;
+    EXPECT_EQ(SetDefinition(11, "values", Version(1), "NODE", 1, 0), S_OK);
+    EXPECT_EQ(SetNbEntities(1), S_OK);
+    EXPECT_EQ(SetValues(&value, nullptr), S_OK);
+  }
+  HRESULT GetNbEntities(int& oNumber) const override
+  {
+    oNumber = _Number;
+    return S_OK;
+  }
+  HRESULT GetEntitiesFLags(const unsigned char*& oFlags) const override
+  {
+    oFlags = _Flags;
+    return S_OK;
+  }
+
+private:
+  int _Number;
+  const unsigned char* _Flags;
+};
+
+constexpr unsigned char kLastIsMissing[] = {1, 1, 0};
+
+} // namespace
+
+TEST_F(VOXECharacCollectorArchiving, OnlyTheEntitiesThatACollectorCountsAreLookedAt)
+{
+  for (const auto& [count, expected] : {std::pair(3, 0), std::pair(2, 1), std::pair(0, 1), std::pair(-1, 1)})
+  {
+    const ToldCollector collector(count, kLastIsMissing);
+    EXPECT_EQ(IsForAll(&collector), expected) << count;
+  }
+}
+
+TEST_F(VOXECharacCollectorArchiving, ACollectorThatGivesNoBytesLacksNoValue)
+{
+  const ToldCollector collector(2, nullptr);
+  EXPECT_EQ(IsForAll(&collector), 1);
+}
+
 TEST_F(VOXECharacCollectorArchiving, NoCollectorMeansThatNothingIsAsked)
 {
   const CallLog log;

@@ -381,6 +381,20 @@ TEST_F(VOXECharacCollectorArea, ResettingTwiceIsHarmless)
   EXPECT_TRUE(AllReported().empty());
 }
 
+TEST_F(VOXECharacCollectorArea, WithoutAnArrayOfAnyLevelIsWalkedAndResetAllTheSame)
+{
+  using Array = CharacArea::Array;
+  for (const Array lost :
+       {Array::VersionSlots, Array::Positions, Array::PositionsOfTheFirstType, Array::ArchiversOfTheFirstType})
+  {
+    Build();
+    CharacArea::Lose(world->Adaptor(), lost);
+    EXPECT_EQ(CharacArea::ResetNumberingDependant(world->Adaptor()), S_OK);
+    EXPECT_EQ(CharacArea::Reset(world->Adaptor()), S_OK);
+    EXPECT_TRUE(IsBlank());
+  }
+}
+
 namespace
 {
 
