@@ -4,6 +4,7 @@
 #include "FeatureModeler/VOXSpecPointing.h"
 #include "FeatureModeler/VOXSpecServices.h"
 #include "tests/adaptors/RerouteWorld.h"
+#include "tests/adaptors/ReroutedScripts.h"
 
 #include <set>
 
@@ -58,61 +59,6 @@ void VOXSamRattrapMode::SetMode(int iMode)
 namespace
 {
 
-// Records components that are removed and handed over, and has pointings.
-class PointedSpecObject : public ScriptedSpecObject
-{
-public:
-  using Pointing = std::pair<VOXBaseUnknown*, VOXBaseUnknown*>; // access and key, either may be null; borrowed
-  static inline std::vector<std::optional<Pointing>> pointings; // none: an empty entry
-
-  VOXBaseUnknown* GetImpl(int iMode = 0) const override
-  {
-    if (iMode != 0)
-      CallLog::Note("implementation with mode " + std::to_string(iMode));
-    return ScriptedSpecObject::GetImpl(iMode);
-  }
-  HRESULT RemoveComponent(const VOXBaseUnknown_var& iComponent, int iMode) override
-  {
-    const bool fails = CallLog::Enter("VOXISpecObject::RemoveComponent", Labels::Of(iComponent), iMode);
-    return fails ? E_FAIL : Told().removeResult;
-  }
-  HRESULT HandOver(const VOXUnicodeString& iFromAttribute, const VOXISpecObject_var& iNewFather,
-                   const VOXUnicodeString& iToAttribute) override
-  {
-    const bool fails = CallLog::Enter("VOXISpecObject::HandOver", Labels::Of(this), iFromAttribute.ConvertToChar(),
-                                      Labels::Of(iNewFather), iToAttribute.ConvertToChar());
-    return fails ? E_FAIL : Told().handOverResult;
-  }
-  HRESULT GetPointings(VOXListPtrVOXSpecPointing& ioPointings) const override
-  {
-    if (CallLog::Enter("VOXISpecObject::GetPointings", Labels::Of(this), ioPointings.Size()))
-      return E_FAIL;
-    for (const auto& pointing : pointings)
-      ioPointings.Append(!pointing ? nullptr
-                                   : new VOXSpecPointing(VOXISpecAttrAccess_var(pointing->first),
-                                                         VOXISpecAttrKey_var(pointing->second)));
-    return S_OK;
-  }
-};
-
-struct AliasScript
-{
-  std::string alias;
-};
-
-class ScriptedAlias : public Scripted<VOXIAlias, AliasScript>
-{
-public:
-  VOXUnicodeString GetAlias() const override
-  {
-    return CallLog::Enter("VOXIAlias::GetAlias", Labels::Of(this)) ? "" : Told().alias.c_str();
-  }
-  HRESULT SetAlias(const VOXUnicodeString& iAlias) override
-  {
-    return CallLog::Enter("VOXIAlias::SetAlias", Labels::Of(this), iAlias.ConvertToChar()) ? E_FAIL : S_OK;
-  }
-};
-
 using LabelledFeature = Labelled<PointedSpecObject>;
 using LabelledAccess = Labelled<ScriptedFeatureAccess>;
 using LabelledKey = Labelled<ScriptedFeatureKey>;
@@ -122,8 +68,8 @@ class OtherServices : public testing::Test
 {
 protected:
   OtherServices()
-      : old(Named<LabelledFeature, LabelledAccess, ScriptedAlias>("old")),
-        fresh(Named<LabelledFeature, LabelledAccess, ScriptedAlias>("new")),
+      : old(Named<LabelledFeature, LabelledAccess, ReroutedAlias>("old")),
+        fresh(Named<LabelledFeature, LabelledAccess, ReroutedAlias>("new")),
         startUp(Named<LabelledFeature>("start-up")),
         container(Named<ScriptedFeatureContainer>("container")),
         tested(static_cast<Rerouting*>(upgrade.Get()))
@@ -131,7 +77,7 @@ protected:
     g_services = {FaceOf<VOXISpecObject>(startUp), {}};
     LabelledFeature::ScriptOf(old).container = FaceOf<VOXIContainer>(container);
     LabelledFeature::ScriptOf(startUp).instance = FaceOf<VOXISpecObject>(fresh);
-    ScriptedAlias::ScriptOf(old).alias = "edge";
+    ReroutedAlias::ScriptOf(old).alias = "edge";
     LabelledAccess::ScriptOf(old).listed.emplace();
   }
   ~OtherServices() override { PointedSpecObject::pointings.clear(); }
@@ -205,7 +151,7 @@ TEST_F(OtherServices, ARerouteTakesItsStepsInOrder)
   PointedSpecObject::pointings = {{{pointing, Key("Target", VOXSpecReference, 0)}}};
   const CallLog log;
   EXPECT_NE(Reroute(), nullptr);
-  EXPECT_EQ(log.Without({"VOXBaseUnknown::"}),
+  EXPECT_EQ(log.Without({"VOXBaseUnknown::", "query of"}),
             (Calls{"VOXISpecObject::GetContainer",
                    "FindStartUp(VOXISpecObject, Clamp, Clamp, container)",
                    "VOXISpecObject::Instantiate(, null)",
@@ -230,6 +176,18 @@ TEST_F(OtherServices, ARerouteTakesItsStepsInOrder)
                    "VOXSpecPointing::GetKey",
                    "VOXISpecAttrKey::GetType",
                    "VOXSpecPubServices::UpgradeSpecObjectAttribute(pointing, Target, new, 0)"}));
+}
+
+TEST_F(OtherServices, TheFacesOfBothInstancesAreAskedForWhenTheyAreNeeded)
+{
+  const CallLog log;
+  Reroute();
+  EXPECT_EQ(log.Only({"query of old", "query of new", "VOXIAlias::", "VOXISpecObject::IsUpToDate",
+                      "VOXISpecAttrAccess::ListAttrKeys"}),
+            (Calls{"query of old", "VOXIAlias::GetAlias(old)", "query of new", "VOXIAlias::SetAlias(new, edge)",
+                   "VOXISpecObject::IsUpToDate(whole document)", "query of old", "query of new",
+                   "VOXISpecAttrAccess::ListAttrKeys", "query of new"}))
+      << "what is redirected takes a handle of its own";
 }
 
 TEST_F(OtherServices, AnInstanceThatWasOutOfDateIsNotUpdatedAndTheModeNotTouched)

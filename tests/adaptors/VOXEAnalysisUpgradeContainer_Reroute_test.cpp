@@ -223,6 +223,12 @@ TEST_F(Reroute, AssertsTheAccessToBothInstances)
   EXPECT_EQ(noOld.file, SourceOf("VOXEAnalysisUpgradeContainer"));
 }
 
+TEST_F(Reroute, AssertsTheAccessToTheOldInstanceFirst)
+{
+  Feature& sealed = world->Made("SealedRestraint", "sealed");
+  EXPECT_EQ(FatalErrorOf([&] { world->Reroute(sealed, "SealedRestraint"); }).text, "AssertionFailed:!!spOldAcc");
+}
+
 TEST_F(Reroute, IsNoOperationOfTheVirtualTable)
 {
   EXPECT_EQ(sizeof(VOXEAnalysisUpgradeContainer), sizeof(VOXBaseUnknown));
