@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "AnalysisInterfaces/VOXISamVisibility.h"
 #include "JsonSchema.h"
 #include "RunProgram.h"
 #include "voxbench/commands/FeatureViews.h"
@@ -10,6 +11,7 @@ using nlohmann::json;
 using testing::HasSubstr;
 using voxbench::LoadedModel;
 using voxbench::ViewRow;
+using voxbench::ViewState;
 
 namespace
 {
@@ -110,6 +112,11 @@ protected:
     return voxbench::ChangeViews(model, iFeature, {iGraph, i3D, std::nullopt});
   }
 
+  ViewRow Hide(voxhost::Feature& iFeature, bool iNoShow)
+  {
+    return voxbench::ChangeViews(model, iFeature, {std::nullopt, std::nullopt, iNoShow});
+  }
+
   static std::vector<std::string> Shown(const ViewRow& iRow)
   {
     std::vector<std::string> shown;
@@ -137,6 +144,52 @@ TEST_F(ChangingViews, OnlyTheViewThatIsSwitchedOnIsAsked)
   voxhost::Feature& load = *model.MembersOf("LoadSet").front();
   Change(load, std::nullopt, false);
   EXPECT_EQ(Shown(Change(load, true, true)), (std::vector<std::string>{"3D: Plate on a block/Loads"}));
+}
+
+TEST_F(ChangingViews, AViewThatIsNotMeantStaysAsItIs)
+{
+  voxhost::Feature& group = *model.Groups().front();
+  EXPECT_EQ(Change(group, false, std::nullopt).after, (ViewState{false, true, false}));
+  EXPECT_EQ(Change(group, std::nullopt, false).after, (ViewState{false, false, false}));
+  EXPECT_EQ(Change(group, true, std::nullopt).after, (ViewState{true, false, false}));
+}
+
+TEST_F(ChangingViews, AFeatureThatIsPutOutOfSightStaysSoWhenAViewChanges)
+{
+  voxhost::Feature& group = *model.Groups().front();
+  Hide(group, true);
+  const ViewRow row = Change(group, std::nullopt, false);
+  EXPECT_EQ(row.before, (ViewState{true, true, true}));
+  EXPECT_EQ(row.after, (ViewState{true, false, true}));
+  EXPECT_EQ(row.showStatusUpdates, 0);
+}
+
+TEST_F(ChangingViews, AFeatureThatWasPutOutOfSightComesBack)
+{
+  voxhost::Feature& group = *model.Groups().front();
+  Hide(group, true);
+  const ViewRow row = Hide(group, false);
+  EXPECT_EQ(row.after, (ViewState{true, true, false}));
+  EXPECT_EQ(row.showStatusUpdates, 1);
+  EXPECT_TRUE(row.done);
+}
+
+TEST_F(ChangingViews, WhatViewsAreAskedOutsideAChangeIsNotNoted)
+{
+  voxhost::Feature& group = *model.Groups().front();
+  Change(group, false, false);
+  const VOXISamVisibility_var spVisibility(static_cast<VOXBaseUnknown*>(&group));
+  spVisibility->SetVisibilityProperty(VOXSamVisibleInBoth);
+  EXPECT_TRUE(model.Document().ShownViews().Calls().empty());
+}
+
+TEST_F(ChangingViews, AFeatureWithoutVisibilityIsNamedAndNotDone)
+{
+  voxhost::Feature& component = *model.Document().New("SAMRealComponent", "thickness");
+  EXPECT_EQ(voxbench::ViewStateOf(component), std::nullopt);
+  const ViewRow row = Change(component, true, true);
+  EXPECT_FALSE(row.done);
+  EXPECT_EQ(row.remark, "the feature has no visibility of its own");
 }
 
 TEST_F(ChangingViews, ASetIsShownUnderTheModel)
