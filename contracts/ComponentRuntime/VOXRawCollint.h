@@ -3,7 +3,7 @@
 
 #include "ComponentRuntime/VOXHostExport.h"
 
-#include <vector>
+struct VOXIntegersRep;
 
 //! List of integers, counted from 1, a value.
 class VOX_HOST_API VOXRawCollint
@@ -38,14 +38,5 @@ public:
   void RemoveAll(int iMode);
 
 private:
-  void Settle() const;
-
-  // Looking changes how the answer is kept, never the answer.
-  int* _Values;
-  mutable int _Size;
-  int _Capacity;
-  mutable int _Absent;                 // an integer that was looked for in vain
-  mutable int _AbsentUpTo;             // among the elements up to this position
-  bool _IsLent;                        // somebody may write an element behind the list's back
-  mutable std::vector<int>* _Unwanted; // removed, though still among the values; null for none
+  VOXIntegersRep* _Rep; // what the host keeps of the integers
 };

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
 // Lists of tags are filled by one feature after the other and searched in between, and tags are removed from them feature
 // by feature. So that neither costs the square of the features,
@@ -50,136 +51,156 @@ private:
   std::unordered_set<int> _Sparse;
 };
 
-} // namespace
-
-VOXRawCollint::VOXRawCollint(int iCapacity)
-    : _Values(iCapacity > 0 ? new int[static_cast<std::size_t>(iCapacity)] : nullptr),
-      _Size(0),
-      _Capacity(std::max(iCapacity, 0)),
-      _Absent(0),
-      _AbsentUpTo(0),
-      _IsLent(false),
-      _Unwanted(nullptr)
+void TakeOut(std::vector<int>& ioValues, const std::vector<int>& iUnwanted)
 {
+  const IntegerSet unwanted(iUnwanted);
+  const auto isUnwanted = [&unwanted](int iValue) { return unwanted.Contains(iValue); };
+  ioValues.erase(std::remove_if(ioValues.begin(), ioValues.end(), isUnwanted), ioValues.end());
 }
 
-VOXRawCollint::VOXRawCollint(const VOXRawCollint& iOther) : VOXRawCollint(iOther.Size())
+} // namespace
+
+// Looking changes how the answer is kept, never the answer.
+struct VOXIntegersRep
 {
-  std::copy_n(iOther._Values, iOther._Size, _Values);
-  _Size = iOther._Size;
+  std::vector<int> values;
+  std::vector<int> unwanted; // removed, though still among the values
+  int absent = 0;            // an integer that was looked for in vain
+  int absentUpTo = 0;        // among the elements up to this position
+  bool isLent = false;       // somebody may write an element behind the list's back
+
+  int Size() const { return static_cast<int>(values.size()); }
+
+  // Takes out what was removed since the list was last looked at.
+  void Settle()
+  {
+    if (unwanted.empty())
+      return;
+    TakeOut(values, std::exchange(unwanted, {}));
+    absentUpTo = 0;
+  }
+};
+
+namespace
+{
+
+VOXIntegersRep& Made(VOXIntegersRep*& ioRep)
+{
+  if (ioRep == nullptr)
+    ioRep = new VOXIntegersRep;
+  return *ioRep;
+}
+
+int& ValueAt(VOXIntegersRep* iRep, int iPosition, int iSize)
+{
+  if (iPosition < 1 || iPosition > iSize)
+    VOXFatalError("AssertionFailed:1 <= iPosition && iPosition <= Size()", nullptr, nullptr, nullptr, __FILE__,
+                  __LINE__);
+  return iRep->values[static_cast<std::size_t>(iPosition - 1)];
+}
+
+} // namespace
+
+VOXRawCollint::VOXRawCollint(int iCapacity) : _Rep(nullptr)
+{
+  if (iCapacity > 0)
+    Made(_Rep).values.reserve(static_cast<std::size_t>(iCapacity));
+}
+
+VOXRawCollint::VOXRawCollint(const VOXRawCollint& iOther) : _Rep(nullptr)
+{
+  if (iOther.Size() > 0)
+    Made(_Rep).values = iOther._Rep->values;
 }
 
 VOXRawCollint& VOXRawCollint::operator=(const VOXRawCollint& iOther)
 {
   VOXRawCollint copy(iOther);
-  std::swap(_Values, copy._Values);
-  std::swap(_Capacity, copy._Capacity);
-  std::swap(_Unwanted, copy._Unwanted);
-  _Size = copy._Size;
-  _AbsentUpTo = 0;
-  _IsLent = false;
+  std::swap(_Rep, copy._Rep);
   return *this;
 }
 
 VOXRawCollint::~VOXRawCollint()
 {
-  delete _Unwanted;
-  delete[] _Values;
+  delete _Rep;
 }
 
 int VOXRawCollint::Size() const
 {
-  Settle();
-  return _Size;
+  if (_Rep == nullptr)
+    return 0;
+  _Rep->Settle();
+  return _Rep->Size();
 }
 
 int& VOXRawCollint::operator[](int iPosition)
 {
-  if (iPosition < 1 || iPosition > Size())
-    VOXFatalError("AssertionFailed:1 <= iPosition && iPosition <= Size()", nullptr, nullptr, nullptr, __FILE__,
-                  __LINE__);
-  _IsLent = true;
-  _AbsentUpTo = 0;
-  return _Values[iPosition - 1];
+  int& value = ValueAt(_Rep, iPosition, Size());
+  _Rep->isLent = true;
+  _Rep->absentUpTo = 0;
+  return value;
 }
 
 int VOXRawCollint::operator[](int iPosition) const
 {
-  if (iPosition < 1 || iPosition > Size())
-    VOXFatalError("AssertionFailed:1 <= iPosition && iPosition <= Size()", nullptr, nullptr, nullptr, __FILE__,
-                  __LINE__);
-  return _Values[iPosition - 1];
+  return ValueAt(_Rep, iPosition, Size());
 }
 
 void VOXRawCollint::Append(int iValue)
 {
-  Settle();
-  if (_Size == _Capacity)
-  {
-    const int capacity = _Capacity == 0 ? 8 : 2 * _Capacity;
-    int* const values = new int[static_cast<std::size_t>(capacity)];
-    std::copy_n(_Values, _Size, values);
-    delete[] _Values;
-    _Values = values;
-    _Capacity = capacity;
-  }
-  _Values[_Size++] = iValue;
+  VOXIntegersRep& rep = Made(_Rep);
+  rep.Settle();
+  rep.values.push_back(iValue);
 }
 
 int VOXRawCollint::Locate(int iValue, int iFrom) const
 {
-  Settle();
-  const bool wasSought = iFrom <= 1 && iValue == _Absent;
-  const int* const from = _Values + std::min(wasSought ? _AbsentUpTo : std::max(iFrom, 1) - 1, _Size);
-  const int* const end = _Values + _Size;
-  const int* const found = std::find(from, end, iValue);
+  const int size = Size();
+  if (size == 0)
+    return 0;
+  const bool wasSought = iFrom <= 1 && iValue == _Rep->absent;
+  const auto begin = _Rep->values.cbegin();
+  const auto end = _Rep->values.cend();
+  const auto found =
+      std::find(begin + std::min(wasSought ? _Rep->absentUpTo : std::max(iFrom, 1) - 1, size), end, iValue);
   if (found != end)
-    return static_cast<int>(found - _Values) + 1;
-  if (iFrom <= 1 && !_IsLent)
+    return static_cast<int>(found - begin) + 1;
+  if (iFrom <= 1 && !_Rep->isLent)
   {
-    _Absent = iValue;
-    _AbsentUpTo = _Size;
+    _Rep->absent = iValue;
+    _Rep->absentUpTo = size;
   }
   return 0;
 }
 
 void VOXRawCollint::Remove(const VOXRawCollint& iOther)
 {
-  if (iOther.Size() == 0 || _Size == 0)
+  if (iOther.Size() == 0 || _Rep == nullptr || _Rep->values.empty())
     return;
-  if (_Unwanted == nullptr)
-    _Unwanted = new std::vector<int>;
-  _Unwanted->insert(_Unwanted->end(), iOther._Values, iOther._Values + iOther._Size);
+  const std::vector<int>& values = iOther._Rep->values;
+  _Rep->unwanted.insert(_Rep->unwanted.end(), values.begin(), values.end());
 }
 
 void VOXRawCollint::RemoveNulls()
 {
-  Settle();
-  _Size = static_cast<int>(std::remove(_Values, _Values + _Size, 0) - _Values);
-  _AbsentUpTo = 0;
+  if (Size() == 0)
+    return;
+  std::vector<int>& values = _Rep->values;
+  values.erase(std::remove(values.begin(), values.end(), 0), values.end());
+  _Rep->absentUpTo = 0;
 }
 
 void VOXRawCollint::RemoveAll(int iMode)
 {
-  delete std::exchange(_Unwanted, nullptr);
-  _Size = 0;
-  _AbsentUpTo = 0;
-  _IsLent = false;
-  if (iMode == 0)
+  if (_Rep == nullptr)
     return;
-  delete[] _Values;
-  _Values = nullptr;
-  _Capacity = 0;
-}
-
-// Takes out what was removed since the list was last looked at.
-void VOXRawCollint::Settle() const
-{
-  if (_Unwanted == nullptr)
+  if (iMode != 0)
+  {
+    delete std::exchange(_Rep, nullptr);
     return;
-  const IntegerSet unwanted(*_Unwanted);
-  int* const end = std::remove_if(_Values, _Values + _Size, [&](int value) { return unwanted.Contains(value); });
-  _Size = static_cast<int>(end - _Values);
-  _AbsentUpTo = 0;
-  delete std::exchange(_Unwanted, nullptr);
+  }
+  _Rep->values.clear();
+  _Rep->unwanted.clear();
+  _Rep->absentUpTo = 0;
+  _Rep->isLent = false;
 }

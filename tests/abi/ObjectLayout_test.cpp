@@ -130,7 +130,7 @@ TEST(ObjectLayout, OfEveryValueClassOfTheContractsHasItsSizeAndAlignment)
       LAYOUT(VOXListValVOXString, 24, 8),
       LAYOUT(VOXListValVOXUnicodeString, 24, 8),
       LAYOUT(VOXMathAxis, 96, 8),
-      LAYOUT(VOXRawCollint, 40, 8),
+      LAYOUT(VOXRawCollint, 8, 8),
       LAYOUT(VOXRep, 8, 8),
       LAYOUT(VOXSamCharacVersion, 16, 4),
       LAYOUT(VOXString, 8, 8),

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace
 {
@@ -163,46 +164,35 @@ template class VOXListVal<VOXString>;
 template class VOXListVal<VOXISpecObject_var>;
 template class VOXListVal<VOXISpecAttrKey_var>;
 
-VOXRawCollint::VOXRawCollint(int)
-    : _Values(nullptr),
-      _Size(0),
-      _Capacity(0),
-      _Absent(0),
-      _AbsentUpTo(0),
-      _IsLent(false),
-      _Unwanted(nullptr)
+struct VOXIntegersRep
 {
-}
+  std::vector<int> values;
+};
 
-VOXRawCollint::VOXRawCollint(const VOXRawCollint& iOther) : VOXRawCollint()
-{
-  *this = iOther;
-}
+VOXRawCollint::VOXRawCollint(int) : _Rep(new VOXIntegersRep) {}
+
+VOXRawCollint::VOXRawCollint(const VOXRawCollint& iOther) : _Rep(new VOXIntegersRep(*iOther._Rep)) {}
 
 VOXRawCollint& VOXRawCollint::operator=(const VOXRawCollint& iOther)
 {
-  if (this == &iOther)
-    return *this;
-  RemoveAll(0);
-  for (int i = 1; i <= iOther._Size; ++i)
-    Append(iOther[i]);
+  *_Rep = *iOther._Rep;
   return *this;
 }
 
 VOXRawCollint::~VOXRawCollint()
 {
-  delete[] _Values;
+  delete _Rep;
 }
 
 int VOXRawCollint::Size() const
 {
-  return _Size;
+  return static_cast<int>(_Rep->values.size());
 }
 
 int& VOXRawCollint::operator[](int iPosition)
 {
-  CheckPosition(iPosition >= 1 && iPosition <= _Size, "VOXRawCollint");
-  return _Values[iPosition - 1];
+  CheckPosition(iPosition >= 1 && iPosition <= Size(), "VOXRawCollint");
+  return _Rep->values[static_cast<std::size_t>(iPosition - 1)];
 }
 
 int VOXRawCollint::operator[](int iPosition) const
@@ -212,14 +202,13 @@ int VOXRawCollint::operator[](int iPosition) const
 
 void VOXRawCollint::Append(int iValue)
 {
-  MakeRoom(_Values, _Size, _Capacity);
-  _Values[_Size++] = iValue;
+  _Rep->values.push_back(iValue);
 }
 
 int VOXRawCollint::Locate(int iValue, int iFrom) const
 {
-  for (int i = std::max(iFrom, 1); i <= _Size; ++i)
-    if (_Values[i - 1] == iValue)
+  for (int i = std::max(iFrom, 1); i <= Size(); ++i)
+    if ((*this)[i] == iValue)
       return i;
   return 0;
 }
@@ -227,23 +216,22 @@ int VOXRawCollint::Locate(int iValue, int iFrom) const
 void VOXRawCollint::Remove(const VOXRawCollint& iOther)
 {
   const VOXRawCollint unwanted(iOther); // which may be this list
-  _Size = static_cast<int>(
-      std::remove_if(_Values, _Values + _Size, [&](int iValue) { return unwanted.Locate(iValue) != 0; }) - _Values);
+  std::vector<int>& values = _Rep->values;
+  values.erase(std::remove_if(values.begin(), values.end(), [&](int iValue) { return unwanted.Locate(iValue) != 0; }),
+               values.end());
 }
 
 void VOXRawCollint::RemoveNulls()
 {
-  _Size = static_cast<int>(std::remove(_Values, _Values + _Size, 0) - _Values);
+  std::vector<int>& values = _Rep->values;
+  values.erase(std::remove(values.begin(), values.end(), 0), values.end());
 }
 
 void VOXRawCollint::RemoveAll(int iMode)
 {
-  _Size = 0;
-  if (iMode != 1)
-    return;
-  delete[] _Values;
-  _Values = nullptr;
-  _Capacity = 0;
+  _Rep->values.clear();
+  if (iMode == 1)
+    _Rep->values.shrink_to_fit();
 }
 
 VOXSpecPointing::VOXSpecPointing(const VOXISpecAttrAccess_var& iAccess, const VOXISpecAttrKey_var& iKey)
