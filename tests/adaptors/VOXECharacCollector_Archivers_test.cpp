@@ -235,48 +235,6 @@ TEST_F(VOXECharacCollectorArchivers, KeepingOneAsksForNoTimeStamp)
   EXPECT_EQ(log.Count("VOXISpecObject"), 0);
 }
 
-namespace
-{
-
-// A feature type that notes the queries that go to itself, not to its implementation.
-class Questioned : public ScriptedCharac
-{
-public:
-  using ScriptedCharac::QueryInterface;
-  HRESULT QueryInterface(const IID& iInterface, void** oFace) override
-  {
-    CallLog::Note("own query");
-    return ScriptedCharac::QueryInterface(iInterface, oFace);
-  }
-};
-
-// One that may keep silent, with success.
-class Reticent : public ScriptedCharac
-{
-public:
-  static inline const char* silentAbout = "";
-
-  HRESULT GetAvailablePhysicalTypes(int& oNbTypes, const int*& oTypes, const void*& oReserved) override
-  {
-    return IsSilent("types") ? S_OK : ScriptedCharac::GetAvailablePhysicalTypes(oNbTypes, oTypes, oReserved);
-  }
-  HRESULT GetAvailableVersions(int iType, int& oNbVersions, const VOXSamCharacVersion*& oVersions) override
-  {
-    return IsSilent("versions") ? S_OK : ScriptedCharac::GetAvailableVersions(iType, oNbVersions, oVersions);
-  }
-  HRESULT GetAvailablePositions(int iType, const VOXSamCharacVersion& iVersion, int& oNbPositions,
-                                const VOXString*& oPositions) override
-  {
-    return IsSilent("positions") ? S_OK
-                                 : ScriptedCharac::GetAvailablePositions(iType, iVersion, oNbPositions, oPositions);
-  }
-
-private:
-  static bool IsSilent(std::string_view iAbout) { return silentAbout == iAbout; }
-};
-
-} // namespace
-
 TEST_F(VOXECharacCollectorArchivers, WhatTheFeatureOffersAndItsTimeStampAreAskedOfTheImplementation)
 {
   Bench bench;

@@ -303,6 +303,20 @@ TEST_F(VOXECharacCollectorArea, HasEveryPlaceOfALongListOfTypes)
   }
 }
 
+// The arrays are as long as told: a sanitizer sees whoever reads behind them.
+TEST_F(VOXECharacCollectorArea, IsSearchedToTheEndOfListsOfEveryLengthAndNoFurther)
+{
+  for (int length = 1; length <= 17; ++length)
+  {
+    std::vector<int> types(static_cast<std::size_t>(length), 33);
+    types.back() = 11;
+    world->Told().types = std::move(types);
+    Rebuild();
+    EXPECT_EQ(Locate(11, Version(1), "NODE"), (Place{S_OK, length - 1, 0, 0}));
+    EXPECT_EQ(Locate(99, Version(1), "NODE"), kNowhere);
+  }
+}
+
 TEST_F(VOXECharacCollectorArea, IsLeftUnsearchedWhenAQueryFails)
 {
   Build();

@@ -224,6 +224,27 @@ TEST_F(VOXECharacCollectorContext, AsksForTheAliasButTellsNothingToNobody)
   EXPECT_EQ(reader.Text(), "");
 }
 
+TEST_F(VOXECharacCollectorContext, IsEmptiedOnlyWhenTheAliasHasBeenAskedFor)
+{
+  Bench bench;
+  const VOXICharacCollector_var spCollector(bench.Component<CharacTie<ScriptedCharac>, ScriptedAlias>());
+  static const VOXAnalysisExplicitParent* given;
+  static bool wasEmpty;
+  given = &context;
+  wasEmpty = true;
+  context = world->Entity();
+  Faults::Listen(
+      [](const char* iOperation)
+      {
+        if (std::string_view(iOperation) == "VOXIAlias::GetAlias")
+          wasEmpty = *given == NULL_exp;
+      });
+  EXPECT_EQ(spCollector->GetContext(context), E_FAIL);
+  Faults::Listen(nullptr);
+  EXPECT_FALSE(wasEmpty);
+  EXPECT_TRUE(context == NULL_exp);
+}
+
 TEST_F(VOXECharacCollectorContext, OfAFeatureWithoutAliasIsToldNowhere)
 {
   const TraceReader reader(Tra_SAMTraceExpDbg);

@@ -182,6 +182,20 @@ TEST_F(VOXECharacCollectorDefinitions, AFailedQueryIsPropagatedAndNothingIsOffer
   }
 }
 
+TEST_F(VOXECharacCollectorDefinitions, AnAnswerThatSaysNothingOffersNothing)
+{
+  Bench bench;
+  const VOXICharacCollector_var spCollector(bench.Component<CharacTie<Reticent>>());
+  for (const char* const about : {"types", "versions", "positions"})
+  {
+    Reticent::silentAbout = about;
+    unsigned char available = 7;
+    EXPECT_EQ(spCollector->IsAnAvailableDefinition(11, Version(1), "NODE", available), S_OK) << about;
+    EXPECT_EQ(available, 0) << about;
+  }
+  Reticent::silentAbout = "";
+}
+
 TEST_F(VOXECharacCollectorDefinitions, EntityTypesAndOccurrencesAreAlwaysEmpty)
 {
   int number = 5;
@@ -219,6 +233,15 @@ TEST_F(VOXECharacCollectorDefinitions, ActivityOfAFeatureThatIsNotExplicitIsNone
   voxhost::Faults::FailOperation("VOXBaseUnknown::QueryInterface", 1, false);
   EXPECT_EQ(world->Adaptor().GetActivity(), 0);
   EXPECT_TRUE(AllReported().empty());
+}
+
+TEST_F(VOXECharacCollectorDefinitions, ActivityIsAskedOfTheFeatureItself)
+{
+  Bench bench;
+  const VOXICharacCollector_var spCollector(bench.Component<CharacTie<Questioned>, ScriptedExplicit>());
+  const CallLog log;
+  CharacTie<Questioned>::AdaptorOf(spCollector).GetActivity();
+  EXPECT_EQ(log.Count("own query"), 1);
 }
 
 TEST_F(VOXECharacCollectorDefinitions, ActivityIsAskedOnceAndTheInterfaceGivenBack)
