@@ -74,7 +74,8 @@ public:
 
   //! Attaches the collector to its context, or detaches it. @param iAttach 1 or 0. @param iObject an object of the
   //! model in place of the context; null for the context itself. @param iMode always 0.
-  //! @return S_OK; E_FAIL without a context; then nothing changes.
+  //! The model takes a reference of its own when it is attached, and gives it back when it is detached, which may destroy
+  //! the collector. @return S_OK; E_FAIL when attached without a context; then nothing changes.
   HRESULT SetAttachedToModel(unsigned char iAttach, VOXSamModelDataRoot* iObject, unsigned char iMode);
 
 protected:
