@@ -11,7 +11,7 @@
 #include "FeatureModeler/VOXISpecAttrAccess.h"
 #include "FeatureModeler/VOXSpecServices.h"
 #include "VOXSamToolsForExplicitation.h"
-#include "benchmarks/Measure.h"
+#include "benchmarks/support/Measure.h"
 #include "host/ExplicitModel/ExplicitModel.h"
 #include "host/FeatureModeler/Document.h"
 

@@ -7,7 +7,7 @@
 #include "ComponentRuntime/VOXRawCollint.h"
 #include "ObjectModeler/VOXSequence.h"
 #include "VOXSamToolsForExplicitation.h"
-#include "benchmarks/Measure.h"
+#include "benchmarks/support/Measure.h"
 #include "host/ExplicitModel/ExplicitModel.h"
 #include "host/FeatureModeler/Document.h"
 

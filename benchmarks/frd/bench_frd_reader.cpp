@@ -2,9 +2,10 @@
 // bench_frd_reader [MEGABYTES]
 //   Reading a generated result file against a plain pass that only scans the rows and converts their numbers, both in the
 //   same run, one after the other, best of several. Limit: twice the time of the plain pass. Fails when it is not met.
-#include "../support/MappedFile.h"
 #include "Numbers.h"
 #include "ResultFile.h"
+#include "benchmarks/support/MappedFile.h"
+#include "benchmarks/support/Measure.h"
 #include "frd/FrdReader.h"
 
 #include <benchmark/benchmark.h>
@@ -12,7 +13,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -74,14 +74,6 @@ private:
   static const char* SkipBlanks(const char* iText) { return voxbench::scan::SkipBlanks(iText); }
 };
 
-template <typename Work>
-double Seconds(Work iWork)
-{
-  const auto start = std::chrono::steady_clock::now();
-  iWork();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
 void Read(const std::string& iPath, const ResultFile& iFile)
 {
   voxbench::ResultRecords records;
@@ -108,8 +100,8 @@ void ReaderAgainstPlainPass(benchmark::State& ioState)
   double plain = reader;
   for (auto _ : ioState)
   {
-    plain = std::min(plain, Seconds([&] { Scan(path.string(), file); }));
-    const double seconds = Seconds([&] { Read(path.string(), file); });
+    plain = std::min(plain, voxmeasure::Seconds([&] { Scan(path.string(), file); }));
+    const double seconds = voxmeasure::Seconds([&] { Read(path.string(), file); });
     reader = std::min(reader, seconds);
     ioState.SetIterationTime(seconds);
   }

@@ -4,6 +4,7 @@
 // the other, best of several.
 // Limits: 1.2 times the two copies; 200 ns with a collector, whatever the size. Fails when one is not met.
 #include "AnalysisInterfaces/VOXISamGroup.h"
+#include "benchmarks/support/Measure.h"
 #include "host/ExplicitModel/ExplicitModel.h"
 #include "host/FeatureModeler/Document.h"
 #include "voxbench/features/Catalogue.h"
@@ -11,7 +12,6 @@
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <numeric>
@@ -22,14 +22,6 @@ namespace
 constexpr std::size_t kNodes = 10000000;
 constexpr int kRounds = 7;
 constexpr int kCalls = 200000;
-
-template <class Work>
-double Seconds(Work iWork)
-{
-  const auto start = std::chrono::steady_clock::now();
-  iWork();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 voxhost::MeshData Nodes()
 {
@@ -98,13 +90,13 @@ int main()
   double built = 1e9;
   for (int round = 0; round < kRounds; ++round)
   {
-    copies = std::min(copies, Seconds([&source] { CopyTwice(source); }));
+    copies = std::min(copies, voxmeasure::Seconds([&source] { CopyTwice(source); }));
     model.Touch(object); // its collector is out of date
-    built = std::min(built, Seconds(content));
+    built = std::min(built, voxmeasure::Seconds(content));
   }
   double kept = 1e9;
   for (int round = 0; round < kRounds; ++round)
-    kept = std::min(kept, Seconds(
+    kept = std::min(kept, voxmeasure::Seconds(
                               [&content]
                               {
                                 for (int i = 0; i < kCalls; ++i)

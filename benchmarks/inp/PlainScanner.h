@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include "../support/MappedFile.h"
+#include "benchmarks/support/MappedFile.h"
 
 #include <charconv>
 #include <cstring>

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <initializer_list>
 #include <memory>
+#include <system_error>
+#include <unistd.h>
 
 class TetDeck::Text
 {
@@ -118,4 +120,16 @@ void TetDeck::WriteAnalysis(Text& ioText) const
 {
   ioText.Card("*MATERIAL, NAME=STEEL\n*ELASTIC\n210000., .3\n*SOLID SECTION, ELSET=EALL, MATERIAL=STEEL");
   ioText.Card("*BOUNDARY\nBOTTOM, 1, 3\n*STEP\n*STATIC\n*CLOAD\nTOP, 3, 1.\n*NODE FILE\nU\n*END STEP");
+}
+
+TetDeckFile::TetDeckFile(const TetDeck& iDeck)
+    : _Path(std::filesystem::temp_directory_path() / ("tet_deck_" + std::to_string(getpid()) + ".inp"))
+{
+  iDeck.Write(_Path.string());
+}
+
+TetDeckFile::~TetDeckFile()
+{
+  std::error_code ignored;
+  std::filesystem::remove(_Path, ignored);
 }

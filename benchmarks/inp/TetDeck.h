@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <string>
 
 //! A box of cells, each split in six tetrahedra, written as a deck with named sets and surfaces.
@@ -34,4 +36,18 @@ private:
 
   std::int64_t _Cells = 1;  //!< along x and y
   std::int64_t _Layers = 1; //!< along z
+};
+
+//! A deck on disk, as long as the object lives.
+class TetDeckFile
+{
+public:
+  explicit TetDeckFile(const TetDeck& iDeck);
+  TetDeckFile(const TetDeckFile&) = delete;
+  TetDeckFile& operator=(const TetDeckFile&) = delete;
+  ~TetDeckFile();
+  std::string Path() const { return _Path.string(); }
+
+private:
+  std::filesystem::path _Path;
 };

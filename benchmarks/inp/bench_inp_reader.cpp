@@ -5,14 +5,13 @@
 #include "PeakMemory.h"
 #include "PlainScanner.h"
 #include "TetDeck.h"
+#include "benchmarks/support/Measure.h"
 #include "inp/InpReader.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <filesystem>
 #include <limits>
 #include <map>
 #include <string>
@@ -26,32 +25,6 @@ constexpr int kRounds = 9;
 
 bool limitsMet = true;
 std::map<std::int64_t, double> secondsPerElement;
-
-// A deck that lives as long as its object.
-class DeckFile
-{
-public:
-  explicit DeckFile(const TetDeck& iDeck)
-      : _Path(std::filesystem::temp_directory_path() / ("tet_deck_" + std::to_string(getpid()) + ".inp"))
-  {
-    iDeck.Write(_Path.string());
-  }
-  DeckFile(const DeckFile&) = delete;
-  DeckFile& operator=(const DeckFile&) = delete;
-  ~DeckFile() { std::filesystem::remove(_Path); }
-  std::string Path() const { return _Path.string(); }
-
-private:
-  std::filesystem::path _Path;
-};
-
-template <typename Work>
-double Seconds(Work iWork)
-{
-  const auto start = std::chrono::steady_clock::now();
-  iWork();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 void Scan(const std::string& iPath, std::int64_t iElements)
 {
@@ -69,7 +42,7 @@ void Read(const std::string& iPath, std::int64_t iElements)
 void ReaderAgainstScanner(benchmark::State& ioState)
 {
   const TetDeck deck(ioState.range(0));
-  const DeckFile file(deck);
+  const TetDeckFile file(deck);
   const auto elements = static_cast<double>(deck.ElementCount());
   const double readerBytes = PeakBytesOf([&] { Read(file.Path(), deck.ElementCount()); }) / elements;
   const double scannerBytes = PeakBytesOf([&] { Scan(file.Path(), deck.ElementCount()); }) / elements;
@@ -77,8 +50,8 @@ void ReaderAgainstScanner(benchmark::State& ioState)
   double scanner = reader;
   for (auto _ : ioState)
   {
-    scanner = std::min(scanner, Seconds([&] { Scan(file.Path(), deck.ElementCount()); }));
-    const double seconds = Seconds([&] { Read(file.Path(), deck.ElementCount()); });
+    scanner = std::min(scanner, voxmeasure::Seconds([&] { Scan(file.Path(), deck.ElementCount()); }));
+    const double seconds = voxmeasure::Seconds([&] { Read(file.Path(), deck.ElementCount()); });
     reader = std::min(reader, seconds);
     ioState.SetIterationTime(seconds);
   }

@@ -7,12 +7,12 @@
 // times the queries and blocks, since each entry is looked at before it goes. Fails when one is not met.
 #include "AnalysisInterfaces/VOXICharacCollector.h"
 #include "VOXECharacCollector.h"
+#include "benchmarks/support/Measure.h"
 #include "host/ExplicitModel/ExplicitModel.h"
 #include "host/FeatureModeler/Document.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -150,14 +150,6 @@ public:
   static Results& AdaptorOf(VOXICharacCollector* iTie) { return *static_cast<ResultsTie*>(iTie)->Tied(); }
 };
 
-template <class Work>
-double Seconds(Work iWork)
-{
-  const auto start = std::chrono::steady_clock::now();
-  iWork();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
 template <class Value>
 int IndexOf(const Value& iValue, const Value* iValues, int iCount)
 {
@@ -190,7 +182,7 @@ int Place(const VOXBaseUnknown* iComponent, const Definition& iDefinition)
 
 double AloneSeconds(const VOXBaseUnknown* iComponent, const std::vector<Definition>& iSamples)
 {
-  return Seconds(
+  return voxmeasure::Seconds(
       [&]
       {
         for (int i = 0; i < kRepeats; ++i)
@@ -204,7 +196,7 @@ double AloneSeconds(const VOXBaseUnknown* iComponent, const std::vector<Definiti
 
 double FetchSeconds(Results& ioResults, const std::vector<Definition>& iSamples)
 {
-  return Seconds(
+  return voxmeasure::Seconds(
       [&]
       {
         for (int i = 0; i < kRepeats; ++i)
@@ -223,7 +215,7 @@ double QueriesAndBlocksSeconds(VOXICharacCollector& iFeature)
   std::vector<void*> blocks;
   blocks.reserve(3 + kTypes * (2 + 2 * kVersions));
   const auto allocate = [&blocks](std::size_t iSize) { blocks.push_back(std::memset(std::malloc(iSize), 0, iSize)); };
-  return Seconds(
+  return voxmeasure::Seconds(
       [&]
       {
         int count = 0;
@@ -255,7 +247,7 @@ double QueriesAndBlocksSeconds(VOXICharacCollector& iFeature)
 
 double BuildSeconds(Results& ioResults, const Definition& iDefinition)
 {
-  return Seconds(
+  return voxmeasure::Seconds(
       [&]
       {
         VOXAnalysisCollectorArchiver* archiver = nullptr;

@@ -4,12 +4,12 @@
 // Limits: a hit costs at most one such pair; a miss at most 1.1 times a hit; 300 interfaces and 100 types at most 1.3
 // times as much as 3 and 1. Fails when one is not met.
 #include "ComponentRuntime/VOXTypeDictionary.h"
+#include "benchmarks/support/Measure.h"
 #include "host/ComponentRuntime/Component.h"
 
 #include <algorithm>
 #include <atomic>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -43,10 +43,12 @@ VOXBaseUnknown* ComponentWith(const std::string& iType, int iInterfaces)
 template <class Work>
 double Nanoseconds(Work iWork)
 {
-  const auto start = std::chrono::steady_clock::now();
-  for (int i = 0; i < kCalls; ++i)
-    iWork();
-  return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start).count() / kCalls;
+  const auto all = [&iWork]
+  {
+    for (int i = 0; i < kCalls; ++i)
+      iWork();
+  };
+  return 1e9 * voxmeasure::Seconds(all) / kCalls;
 }
 
 double Hit(VOXBaseUnknown* iComponent, const IID& iInterface)

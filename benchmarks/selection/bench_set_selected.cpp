@@ -4,7 +4,7 @@
 // Limit: ten times the sub-components cost at most 1.3 times as much each. Fails when it is not met.
 #include "AnalysisInterfaces/VOXISamSelectionList.h"
 #include "VOXESamEnumManager.h"
-#include "benchmarks/Measure.h"
+#include "benchmarks/support/Measure.h"
 #include "host/FeatureModeler/Document.h"
 
 #include <algorithm>

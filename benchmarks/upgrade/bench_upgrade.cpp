@@ -6,12 +6,12 @@
 #include "AnalysisInterfaces/VOXISamFeatureUpgrade.h"
 #include "VOXEAnalysisUpgrade.h"
 #include "VOXEAnalysisUpgradeContainer.h"
+#include "benchmarks/support/Measure.h"
 #include "host/FeatureModeler/Document.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <memory>
 #include <string>
 #include <vector>
@@ -59,15 +59,6 @@ void Demand(bool iTrue, const char* iWhat)
     return;
   std::printf("wrong: %s\n", iWhat);
   std::exit(1);
-}
-
-// Time of the processor, not of the clock: seconds of work do not escape the machine's other work.
-template <class Work>
-double Nanoseconds(Work iWork)
-{
-  const std::clock_t start = std::clock();
-  iWork();
-  return static_cast<double>(std::clock() - start) * 1e9 / CLOCKS_PER_SEC;
 }
 
 using TypesOfAll = std::shared_ptr<const voxhost::TypeCatalogue>;
@@ -160,12 +151,12 @@ double TimeAt(const TypesOfAll& iTypes, int iSize)
   std::vector<std::unique_ptr<TheDocument>> documents;
   for (int i = 0; i < kMany / iSize; ++i)
     documents.push_back(std::make_unique<TheDocument>(iTypes, iSize));
-  const double time = Nanoseconds(
-      [&documents]
-      {
-        for (const auto& document : documents)
-          document->Work();
-      });
+  const auto work = [&documents]
+  {
+    for (const auto& document : documents)
+      document->Work();
+  };
+  const double time = 1e9 * voxmeasure::Seconds(work);
   return time / kMany;
 }
 
