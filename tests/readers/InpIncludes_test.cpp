@@ -128,4 +128,28 @@ TEST(InpIncludes, AFindingInAnIncludedFileNamesThatFile)
               HasSubstr("nodes.inc:2: error: *NODE: \"X\""));
 }
 
+TEST(InpIncludes, AByteOrderMarkOfAnIncludedFileIsPassedOver)
+{
+  InpBench bench;
+  bench.Write("nodes.txt", "\xEF\xBB\xBF"
+                           "2, 0., 0., 0.\n");
+  bench.Write("sets.txt", "\xEF\xBB\xBF*NSET, NSET=A\n2\n");
+  bench.Read("*NODE, NSET=ALL\n1, 0., 0., 0.\n*INCLUDE, INPUT=nodes.txt\n*INCLUDE, INPUT=sets.txt\n");
+
+  EXPECT_EQ(Members(bench.model.FindNodeSet("ALL")), (std::vector<int>{1, 2}));
+  EXPECT_EQ(Members(bench.model.FindNodeSet("A")), (std::vector<int>{2}));
+  EXPECT_THAT(bench.Findings(), IsEmpty());
+}
+
+TEST(InpIncludes, AnIncludedFolderIsRefusedByItsName)
+{
+  InpBench bench;
+  bench.Write("parts/mesh.inc", "");
+  bench.Read("*NODE\n1, 0., 0., 0.\n*INCLUDE, INPUT=parts\n");
+
+  EXPECT_FALSE(bench.outcome.ok);
+  EXPECT_EQ(bench.outcome.line, 3);
+  EXPECT_THAT(bench.outcome.reason, HasSubstr("parts cannot be read: Is a directory"));
+}
+
 } // namespace voxbench

@@ -191,4 +191,22 @@ TEST(InpProperties, InitialConditionsTellTheirType)
   EXPECT_EQ(bench.model.nodalThicknesses[0].values[0], .2);
 }
 
+TEST(InpProperties, TextAmongTheNumbersOfAMaterialIsReported)
+{
+  InpBench bench;
+  bench.Read("*MATERIAL, NAME=STEEL\n*ELASTIC\n2.1D5, O.3\n*DENSITY\n7.8-9\n");
+
+  EXPECT_EQ(bench.Findings(), (std::vector<std::string>{"3 E *ELASTIC \"O.3\" is no number."}));
+  EXPECT_EQ(bench.model.materials[0].properties[0].Text(0, 1), "O.3");
+}
+
+TEST(InpProperties, TextAmongThePointsOfAnOrientationIsReported)
+{
+  InpBench bench;
+  bench.Read("*ORIENTATION, NAME=O\n1, 0, zero, 0, 1, 0\n*TRANSFORM, NSET=N\n1, 0, 0, NaN, 1, 0\n");
+
+  EXPECT_EQ(bench.Findings(), (std::vector<std::string>{"2 E *ORIENTATION \"ZERO\" is no number.",
+                                                        "4 E *TRANSFORM \"NAN\" is no number."}));
+}
+
 } // namespace voxbench

@@ -179,4 +179,40 @@ TEST(InpSets, BigUnsortedSetsOverIdsWithHolesComeOutRight)
   EXPECT_EQ(Members(bench.model.FindNodeSet("A")), wanted);
 }
 
+TEST(InpSets, ALongChainOfSetsIsFollowedToItsEnd)
+{
+  InpBench bench;
+  std::string deck = NodesUpTo(2) + "*NSET, NSET=S0\n1\n";
+  for (int number = 1; number < 20000; ++number) // each names the one before
+    deck += "*NSET, NSET=S" + std::to_string(number) + "\nS" + std::to_string(number - 1) + "\n";
+  bench.Read(deck + "*NSET, NSET=LAST, GENERATE\n2, 2\n*NSET, NSET=LAST\nS19999\n");
+
+  EXPECT_EQ(Members(bench.model.FindNodeSet("S19999")), (std::vector<int>{1}));
+  EXPECT_EQ(Members(bench.model.FindNodeSet("LAST")), (std::vector<int>{1, 2}));
+  EXPECT_THAT(bench.Findings(), IsEmpty());
+}
+
+TEST(InpSets, ASetThatNamesACircleHasTheMembersOfTheCircle)
+{
+  InpBench bench;
+  bench.Read(NodesUpTo(9) +
+             "*NSET, NSET=OUTER\nA, 9\n*NSET, NSET=A\nB, 1\n*NSET, NSET=B\nA, C, 2\n*NSET, NSET=C\n3, D\n"
+             "*NSET, NSET=D\n4\n");
+
+  EXPECT_EQ(Members(bench.model.FindNodeSet("OUTER")), (std::vector<int>{1, 2, 3, 4, 9}));
+  EXPECT_EQ(Members(bench.model.FindNodeSet("A")), (std::vector<int>{1, 2, 3, 4}));
+  EXPECT_EQ(Members(bench.model.FindNodeSet("B")), (std::vector<int>{1, 2, 3, 4}));
+  EXPECT_EQ(Members(bench.model.FindNodeSet("C")), (std::vector<int>{3, 4}));
+  EXPECT_EQ(bench.model.diagnostics.warnings, 2);
+}
+
+TEST(InpSets, AnElementSetThatNamesNoSetIsReportedAsSuch)
+{
+  InpBench bench;
+  bench.Read("*ELSET, ELSET=E\nNOPE\n");
+
+  EXPECT_THAT(bench.Findings(),
+              ElementsAre("2 E *ELSET E names NOPE, which is neither a number nor an element set; it is left out."));
+}
+
 } // namespace voxbench

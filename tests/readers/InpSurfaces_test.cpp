@@ -143,4 +143,12 @@ TEST(InpSurfaces, ASurfaceOfAnotherTypeIsReported)
   EXPECT_EQ(bench.Findings()[0], "3 E *SURFACE TYPE=CUTTING is neither NODE nor ELEMENT; the surface A is not kept.");
 }
 
+TEST(InpSurfaces, ASideWithoutAnElementIsReported)
+{
+  InpBench bench;
+  bench.Read("*SURFACE, NAME=A\n, S2\n");
+
+  EXPECT_EQ(bench.Findings(), (std::vector<std::string>{"2 E *SURFACE \"\" is no element number; it is no member."}));
+}
+
 } // namespace voxbench

@@ -84,13 +84,6 @@ std::string Capitalised(std::string iText)
 
 } // namespace
 
-bool ActsOnNodes(const AppliedCard& iCard)
-{
-  static constexpr const char* kOnElements[] = {"DLOAD", "DSLOAD", "DFLUX", "FILM", "RADIATE", "MASSFLOW"};
-  return std::find(std::begin(kOnElements), std::end(kOnElements), iCard.keyword) == std::end(kOnElements) &&
-         iCard.keyword != "BOUNDARYF";
-}
-
 std::string AliasOf(const AppliedCard& iCard, const NeutralModel& iRecords)
 {
   return iCard.keyword + WhatOf(iCard, iRecords) + TargetsOf(iCard, iRecords) + InStep(iCard.step);

@@ -7,9 +7,6 @@
 namespace voxbench
 {
 
-//! Whether an applied card acts on nodes (CLOAD, BOUNDARY, ...) or on elements and their sides (DLOAD, FILM, ...).
-bool ActsOnNodes(const AppliedCard& iCard);
-
 //! What people call the entity that a card makes: "CLOAD 3 on TOP and node 13, step 1".
 std::string AliasOf(const AppliedCard& iCard, const NeutralModel& iRecords);
 std::string AliasOf(const Section& iSection);

@@ -76,6 +76,12 @@ const std::string& CardRecord::Get(std::string_view iKey) const
   return NoText();
 }
 
+bool ActsOnNodes(const AppliedCard& iCard)
+{
+  static constexpr const char* kOnElements[] = {"DLOAD", "DSLOAD", "DFLUX", "FILM", "RADIATE", "MASSFLOW", "BOUNDARYF"};
+  return std::find(std::begin(kOnElements), std::end(kOnElements), iCard.keyword) == std::end(kOnElements);
+}
+
 double CardRecord::Number(std::size_t iLine, std::size_t iField, double iDefault) const
 {
   double value = 0.;

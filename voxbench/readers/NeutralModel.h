@@ -206,6 +206,9 @@ struct AppliedCard
   }
 };
 
+//! Whether an applied card acts on nodes (CLOAD, BOUNDARY, ...) or on elements and their sides (DLOAD, FILM, ...).
+bool ActsOnNodes(const AppliedCard& iCard);
+
 //! Linear constraints: the terms of row r are [offsets[r] .. offsets[r + 1]) of the three parallel arrays.
 struct EquationTable
 {

@@ -9,9 +9,20 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <string_view>
 
 namespace voxbench
 {
+
+namespace
+{
+//! zlib names the file by its descriptor, which tells nobody anything: "<fd:3>: unexpected end of file".
+std::string WithoutPlace(std::string_view iText)
+{
+  const std::size_t end = iText.starts_with("<fd:") ? iText.find(">: ") : std::string_view::npos;
+  return std::string(end == std::string_view::npos ? iText : iText.substr(end + 3));
+}
+} // namespace
 
 PackedFile::~PackedFile()
 {
@@ -63,7 +74,7 @@ std::int64_t PackedFile::Read(char* iTarget, std::size_t iRoom)
   int code = Z_OK;
   const char* const text = gzerror(_Compression, &code);
   if (got < 0 || code == Z_BUF_ERROR)
-    _Failure = std::string("the compressed data is damaged or cut off (") + text + ")";
+    _Failure = "the compressed data is damaged or cut off (" + WithoutPlace(text) + ")";
   return _Failure.empty() ? got : -1;
 }
 

@@ -131,8 +131,8 @@ void ReportReferences(Reading& ioReading, SetBuilders& ioSets, const SetBuilder&
   for (const NamedReference& reference : iSet.references)
     if (ioSets.Find(reference.name) < 0)
       ioReading.Report(Severity::Error, reference.where,
-                       fmt::format("{} names {}, which is neither a number nor a {} set; it is left out.", iSet.name,
-                                   reference.name, iWhat));
+                       fmt::format("{} names {}, which is neither a number nor {} {} set; it is left out.", iSet.name,
+                                   reference.name, iWhat[0] == 'e' ? "an" : "a", iWhat));
 }
 
 // Nodes of element sets: known once the element sets are settled.
@@ -163,6 +163,73 @@ void NoteParts(Reading& ioReading, SetBuilders& ioSets, const SetBuilder& iSet, 
       ioReading.model.elementSets[static_cast<std::size_t>(index)].isPart = true;
 }
 
+void AddOwn(const SetBuilder& iSet, const Population& iPopulation, Members& ioIds)
+{
+  ioIds.Append(iSet.ids.data(), iSet.ids.size());
+  for (const GeneratedRange& range : iSet.ranges)
+    AddRange(range, iPopulation, ioIds);
+}
+
+// Settles the sets that name others, each after all that it names. Sets in a circle, and sets that name one, stay.
+void SettleSetsOfSets(SetBuilders& ioSets, const Population& iPopulation, std::vector<NamedSet>& oSets,
+                      std::vector<bool>& ioSettled)
+{
+  std::vector<SetBuilder>& all = ioSets.All();
+  std::vector<std::size_t> awaited(all.size(), 0);
+  std::vector<std::vector<std::size_t>> waiting(all.size());
+  std::vector<std::size_t> ready;
+  for (std::size_t at = 0; at < all.size(); ++at)
+  {
+    for (const NamedReference& reference : all[at].references)
+      if (const std::int64_t index = ioSets.Find(reference.name);
+          index >= 0 && !ioSettled[static_cast<std::size_t>(index)])
+      {
+        waiting[static_cast<std::size_t>(index)].push_back(at);
+        ++awaited[at];
+      }
+    if (!ioSettled[at] && awaited[at] == 0)
+      ready.push_back(at);
+  }
+  while (!ready.empty())
+  {
+    const std::size_t at = ready.back();
+    ready.pop_back();
+    AddOwn(all[at], iPopulation, oSets[at].members);
+    for (const NamedReference& reference : all[at].references)
+      if (const std::int64_t index = ioSets.Find(reference.name); index >= 0)
+      {
+        const Members& named = oSets[static_cast<std::size_t>(index)].members;
+        oSets[at].members.Append(named.data(), named.size());
+      }
+    Settle(oSets[at].members, iPopulation.present);
+    ioSettled[at] = true;
+    for (const std::size_t other : waiting[at])
+      if (--awaited[other] == 0)
+        ready.push_back(other);
+  }
+}
+
+// A set in a circle, or one that names such a set.
+void SettleCircle(Reading& ioReading, SetBuilders& ioSets, std::size_t iAt, const Population& iPopulation,
+                  const std::vector<bool>& iSettled, std::vector<NamedSet>& oSets)
+{
+  const std::vector<SetBuilder>& all = ioSets.All();
+  Members& members = oSets[iAt].members;
+  bool circle = false;
+  for (const std::size_t other : Reach(ioSets, iAt, circle))
+  {
+    if (iSettled[other])
+      members.Append(oSets[other].members.data(), oSets[other].members.size());
+    else
+      AddOwn(all[other], iPopulation, members);
+  }
+  if (circle)
+    ioReading.Report(
+        Severity::Warning, all[iAt].where,
+        fmt::format("{} contains itself; its members are those of all sets in the circle.", all[iAt].name));
+  Settle(members, iPopulation.present);
+}
+
 void SettleSets(Reading& ioReading, SetBuilders& ioSets, const Population& iPopulation, std::vector<NamedSet>& oSets)
 {
   std::vector<SetBuilder>& all = ioSets.All();
@@ -177,23 +244,7 @@ void SettleSets(Reading& ioReading, SetBuilders& ioSets, const Population& iPopu
     AddNodesOfElements(ioReading, all[at]);
     NoteParts(ioReading, ioSets, all[at], oSets);
   }
-  for (std::size_t at = 0; at < all.size(); ++at) // the sets of sets first, as long as all lists stand
-  {
-    if (all[at].references.empty())
-      continue;
-    bool circle = false;
-    for (const std::size_t other : Reach(ioSets, at, circle))
-    {
-      oSets[at].members.Append(all[other].ids.data(), all[other].ids.size());
-      for (const GeneratedRange& range : all[other].ranges)
-        AddRange(range, iPopulation, oSets[at].members);
-    }
-    if (circle)
-      ioReading.Report(
-          Severity::Warning, all[at].where,
-          fmt::format("{} contains itself; its members are those of all sets in the circle.", all[at].name));
-    Settle(oSets[at].members, iPopulation.present);
-  }
+  std::vector<bool> settled(all.size());
   for (std::size_t at = 0; at < all.size(); ++at)
   {
     if (!all[at].references.empty())
@@ -202,7 +253,12 @@ void SettleSets(Reading& ioReading, SetBuilders& ioSets, const Population& iPopu
     for (const GeneratedRange& range : all[at].ranges)
       AddRange(range, iPopulation, oSets[at].members);
     Settle(oSets[at].members, iPopulation.present);
+    settled[at] = true;
   }
+  SettleSetsOfSets(ioSets, iPopulation, oSets, settled);
+  for (std::size_t at = 0; at < all.size(); ++at)
+    if (!settled[at])
+      SettleCircle(ioReading, ioSets, at, iPopulation, settled, oSets);
 }
 } // namespace
 
@@ -216,6 +272,7 @@ void FinishSets(Reading& ioReading)
   ioReading.cardInForce = "*NSET";
   SettleSets(ioReading, ioReading.nodeSets, {nodes, "node"}, model.nodeSets);
   FinishSurfaces(ioReading);
+  ReportMissingTargets(ioReading, nodes, elements);
 }
 
 } // namespace voxbench::inp

@@ -67,4 +67,8 @@ void FinishMesh(Reading& ioReading);
 void FinishSets(Reading& ioReading);
 void FinishSurfaces(Reading& ioReading);
 
+// MissingTargets.cpp: one finding per card that names nodes or elements which the deck does not define.
+class IdPresence;
+void ReportMissingTargets(Reading& ioReading, const IdPresence& iNodes, const IdPresence& iElements);
+
 } // namespace voxbench::inp

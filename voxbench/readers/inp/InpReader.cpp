@@ -33,13 +33,7 @@ bool BeginsADeck(Reading& ioReading)
     return false;
   }
   const auto size = std::min(kHead, static_cast<std::size_t>(source.Limit() - source.Cursor()));
-  std::string_view head(source.Cursor(), size);
-  if (head.starts_with("\xEF\xBB\xBF"))
-  {
-    head.remove_prefix(3);
-    source.MoveTo(source.Cursor() + 3, 0);
-  }
-  std::optional<inp::NoDeck> noDeck = inp::Sniff(head);
+  std::optional<inp::NoDeck> noDeck = inp::Sniff({source.Cursor(), size});
   if (!noDeck)
     return true;
   ioReading.cardInForce = noDeck->card;

@@ -10,6 +10,13 @@ namespace voxbench::inp
 namespace
 {
 constexpr std::size_t kLongestLine = std::size_t{1} << 26;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+} // namespace
+
+//! A small file needs no more than its size, and a byte more to see its end: a deck may include a great many of them.
+std::size_t LineSource::FirstWindow() const
+{
+  return IsCompressed() ? kWindow : static_cast<std::size_t>(std::min<std::uint64_t>(kWindow, BytesInAll() + 1));
 }
 
 std::uint64_t LineSource::TextAhead() const
@@ -46,9 +53,10 @@ bool LineSource::Refill()
   const std::size_t hadLines = _Window.empty() ? 0 : static_cast<std::size_t>(_Limit - _Cursor);
   _Filled = kept;
   const char* lastEnd = nullptr;
+  std::size_t skipped = 0;
   do
   {
-    const std::size_t room = std::max(kWindow, _Filled); // a line longer than the window doubles it
+    const std::size_t room = std::max(FirstWindow(), _Filled); // a line longer than the window doubles it
     if (_Filled > kLongestLine)
     {
       _TooLong = "a line of more than 64 MiB";
@@ -61,6 +69,8 @@ bool LineSource::Refill()
     const bool first = _TextRead == 0;
     Fill(room);
     char* const text = _Window.data();
+    if (first && std::string_view(text, _Filled).starts_with(kByteOrderMark))
+      skipped = kByteOrderMark.size();
     if (first && memchr(text, '\n', _Filled) == nullptr && memchr(text, '\r', _Filled) != nullptr)
       _OnlyCarriageReturns = true;
     if (_OnlyCarriageReturns)
@@ -70,7 +80,7 @@ bool LineSource::Refill()
     lastEnd = static_cast<const char*>(memrchr(text, '\n', _Filled));
   } while (!_AtEnd && (lastEnd == nullptr || static_cast<std::size_t>(lastEnd - _Window.data()) < hadLines));
   std::memset(_Window.data() + _Filled, 0, kPadding - 1);
-  _Cursor = _Window.data();
+  _Cursor = _Window.data() + skipped;
   _Limit = lastEnd == nullptr ? _Cursor : lastEnd + 1;
   return static_cast<std::size_t>(_Limit - _Cursor) > hadLines;
 }

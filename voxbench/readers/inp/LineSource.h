@@ -11,7 +11,7 @@ namespace voxbench::inp
 //! The lines of one file, plain or gzip-compressed (told by its first bytes), through a window that moves over it.
 //!
 //! - The window holds whole lines only, each ended by '\n', the last one of the file too. A carriage return before it
-//!   stays; a file that knows only carriage returns has them turned into '\n'.
+//!   stays; a file that knows only carriage returns has them turned into '\n'. A byte order mark is passed over.
 //! - Behind the window stand at least `kPadding` bytes that can be read and end no line, so that scanners need no limits.
 //! - Only the window is held in memory, whatever the size of the file.
 class LineSource
@@ -53,6 +53,7 @@ public:
   std::uint64_t TextAhead() const;
 
 private:
+  std::size_t FirstWindow() const;
   void Fill(std::size_t iRoom);
 
   PackedFile _File;

@@ -4,7 +4,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace voxbench::inp
@@ -14,17 +13,16 @@ namespace
 {
 // The place of the one of that name, made if there is none: property cards may come in pieces.
 template <typename T>
-std::size_t Named(std::vector<T>& ioAll, const std::string& iName, Where iWhere)
+std::size_t Named(std::vector<T>& ioAll, Reading::Places& ioPlaces, const std::string& iName, Where iWhere)
 {
-  const auto found = std::find_if(ioAll.begin(), ioAll.end(), [&](const T& iOne) { return iOne.name == iName; });
-  const auto index = static_cast<std::size_t>(found - ioAll.begin());
-  if (found == ioAll.end())
+  const auto [found, isNew] = ioPlaces.try_emplace(iName, ioAll.size());
+  if (isNew)
   {
     ioAll.emplace_back();
     ioAll.back().name = iName;
     ioAll.back().where = iWhere;
   }
-  return index;
+  return found->second;
 }
 
 void ReportNoName(Reading& ioReading, const CardRecord& iCard)
@@ -74,7 +72,7 @@ void ReadMaterial(Reading& ioReading, CardRecord& ioCard)
 {
   ReportUnusedParameters(ioReading, ioCard, {"NAME"});
   ReportNoName(ioReading, ioCard);
-  ioReading.ownerIndex = Named(ioReading.model.materials, ioCard.Get("NAME"), ioCard.where);
+  ioReading.ownerIndex = Named(ioReading.model.materials, ioReading.materialPlaces, ioCard.Get("NAME"), ioCard.where);
   ioReading.owner = Reading::Owner::Material;
 }
 
@@ -82,7 +80,8 @@ void ReadInteraction(Reading& ioReading, CardRecord& ioCard)
 {
   ReportUnusedParameters(ioReading, ioCard, {"NAME"});
   ReportNoName(ioReading, ioCard);
-  ioReading.ownerIndex = Named(ioReading.model.interactions, ioCard.Get("NAME"), ioCard.where);
+  ioReading.ownerIndex =
+      Named(ioReading.model.interactions, ioReading.interactionPlaces, ioCard.Get("NAME"), ioCard.where);
   ioReading.owner = Reading::Owner::Interaction;
 }
 
@@ -91,14 +90,14 @@ void ReadInteractionChange(Reading& ioReading, CardRecord& ioCard)
   const std::string name = ioCard.Get("INTERACTION");
   if (name.empty())
     ioReading.Report(Severity::Error, ioCard.where, "the card names no INTERACTION.");
-  ioReading.ownerIndex = Named(ioReading.model.interactions, name, ioCard.where);
+  ioReading.ownerIndex = Named(ioReading.model.interactions, ioReading.interactionPlaces, name, ioCard.where);
   ioReading.owner = Reading::Owner::Interaction;
   ReadProperty(ioReading, ioCard);
 }
 
 void ReadProperty(Reading& ioReading, CardRecord& ioCard)
 {
-  ioReading.TakeData(ioCard);
+  ioReading.TakeNumbers(ioCard);
   if (ioReading.owner == Reading::Owner::Material)
     ioReading.model.materials[ioReading.ownerIndex].properties.push_back(std::move(ioCard));
   else if (ioReading.owner == Reading::Owner::Interaction)
@@ -160,7 +159,7 @@ void ReadOrientation(Reading& ioReading, CardRecord& ioCard)
 {
   ReportNoName(ioReading, ioCard);
   LocalAxes& axes = ioReading.model.orientations.emplace_back();
-  ioReading.TakeData(ioCard);
+  ioReading.TakeNumbers(ioCard);
   axes.card = std::move(ioCard);
   axes.name = axes.card.Get("NAME");
   axes.cylindrical = axes.card.Get("SYSTEM").starts_with('C');
@@ -170,7 +169,7 @@ void ReadOrientation(Reading& ioReading, CardRecord& ioCard)
 void ReadTransform(Reading& ioReading, CardRecord& ioCard)
 {
   LocalAxes& axes = ioReading.model.transforms.emplace_back();
-  ioReading.TakeData(ioCard);
+  ioReading.TakeNumbers(ioCard);
   axes.card = std::move(ioCard);
   axes.nodeSet = axes.card.Get("NSET");
   axes.cylindrical = axes.card.Get("TYPE").starts_with('C');

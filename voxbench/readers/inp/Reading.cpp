@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Reading.h"
 
+#include "../Numbers.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -16,24 +18,29 @@ Reading::Reading(const ReadOptions& iOptions, NeutralModel& ioModel) : model(ioM
 
 bool Reading::Open(const fs::path& iPath)
 {
-  OpenFile opened{std::make_unique<LineSource>(), iPath, {}, static_cast<std::int32_t>(model.files.size())};
-  const std::string problem = opened.source->Open(iPath);
+  const std::string problem = Push(iPath);
   if (!problem.empty())
-  {
     outcome = {false,
                iPath.string(),
                0,
                "",
                fmt::format("the file cannot be read: {}.", problem),
                "Check the path and the permissions."};
-    return false;
-  }
+  return problem.empty();
+}
+
+std::string Reading::Push(const fs::path& iPath)
+{
+  OpenFile opened{std::make_unique<LineSource>(), iPath, {}, static_cast<std::int32_t>(model.files.size())};
+  std::string problem = opened.source->Open(iPath);
+  if (!problem.empty())
+    return problem;
   std::error_code ignored;
   opened.identity = fs::canonical(iPath, ignored);
   model.files.push_back(iPath.string());
   _BytesKnown += opened.source->BytesInAll();
   _Open.push_back(std::move(opened));
-  return true;
+  return {};
 }
 
 void Reading::Progress() const
@@ -138,8 +145,9 @@ void Reading::EnterInclude()
   if (std::any_of(_Open.begin(), _Open.end(), [&](const OpenFile& iFile) { return iFile.identity == identity; }))
     return Refuse(where, fmt::format("the file {} includes itself.", target.string()),
                   "Remove one of the *INCLUDE cards.");
-  if (!Open(target))
-    return Refuse(where, outcome.reason, outcome.advice);
+  if (const std::string problem = Push(target); !problem.empty())
+    return Refuse(where, fmt::format("the included file {} cannot be read: {}.", target.string(), problem),
+                  "Check the path and the permissions.");
   cardInForce = cardBefore;
 }
 
@@ -179,6 +187,22 @@ void Reading::TakeData(CardRecord& ioCard, bool iBlankLinesCount)
     ioCard.data.push_back(std::move(line));
   while (!ioCard.data.empty() && ioCard.data.back().fields.empty())
     ioCard.data.pop_back();
+}
+
+void Reading::TakeNumbers(CardRecord& ioCard)
+{
+  DataLine line;
+  while (TakeFields(line))
+  {
+    double value = 0.;
+    const auto odd =
+        std::find_if(line.fields.begin(), line.fields.end(),
+                     [&value](const std::string& iText) { return !iText.empty() && !ParseReal(iText, value); });
+    if (odd != line.fields.end())
+      Report(Severity::Error, {Here().file, line.line}, fmt::format("\"{}\" is no number.", *odd));
+    if (!line.fields.empty())
+      ioCard.data.push_back(std::move(line));
+  }
 }
 
 void Reading::Refuse(Where iWhere, std::string iReason, std::string iAdvice)

@@ -55,6 +55,9 @@ public:
   //! Takes all data lines of the card in force.
   void TakeData(CardRecord& ioCard, bool iBlankLinesCount = false);
 
+  //! The same, of a card whose fields are numbers; others are reported and kept as they are.
+  void TakeNumbers(CardRecord& ioCard);
+
   void Refuse(Where iWhere, std::string iReason, std::string iAdvice);
   bool Refused() const { return !outcome.ok; }
 
@@ -79,6 +82,9 @@ public:
   SetBuilders elementSurfaces;
   std::vector<std::string> surfaceOrder; //!< 'N' or 'E' and the name, in the order of first appearance
   std::unordered_map<std::string, std::int32_t> userElementNodes;
+  using Places = std::unordered_map<std::string, std::size_t>; //!< by name
+  Places materialPlaces;
+  Places interactionPlaces;
   bool nodesAscend = true;    //!< ids so far strictly ascending
   bool elementsAscend = true; //!< ids so far strictly ascending
   bool inStep = false;
@@ -102,6 +108,7 @@ private:
     std::int32_t index = -1;
   };
 
+  std::string Push(const std::filesystem::path& iPath);
   void Progress() const;
   bool AtInclude(std::string_view iLine) const;
   void EnterInclude();

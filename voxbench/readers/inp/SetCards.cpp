@@ -107,7 +107,9 @@ void TakeSideSlowly(Reading& ioReading, SetBuilder& ioSurface)
   if (line.fields.size() > 2)
     ioReading.Report(Severity::Warning, where, "more than an element and a side; the rest has no effect.");
   std::int32_t id = 0;
-  if (!ParseInteger(line.fields[0], id))
+  if (line.fields[0].empty())
+    ReportBadId(ioReading, where, line.fields[0], "element");
+  else if (!ParseInteger(line.fields[0], id))
     ioSurface.references.push_back({line.fields[0], side, where});
   else if (id < 1)
     ReportBadId(ioReading, where, line.fields[0], "element");
