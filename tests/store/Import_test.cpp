@@ -153,4 +153,13 @@ TEST_F(Import, WritesToTheFileThatALinkLeadsTo)
   EXPECT_EQ(RunBuiltProgram({"tree", target}).code, 0);
 }
 
+TEST_F(Import, ADocumentThatIsReplacedKeepsItsPermissions)
+{
+  using std::filesystem::perms;
+  ASSERT_EQ(RunInProcess({"import", deck, "-o", document}).code, 0);
+  std::filesystem::permissions(document, perms::owner_read | perms::owner_write);
+  ASSERT_EQ(RunInProcess({"import", deck, "-o", document, "--force"}).code, 0);
+  EXPECT_EQ(std::filesystem::status(document).permissions(), perms::owner_read | perms::owner_write);
+}
+
 } // namespace

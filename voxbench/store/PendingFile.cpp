@@ -80,7 +80,14 @@ PendingFile::PendingFile(const std::string& iTarget)
   const auto kind = std::filesystem::status(_Target, missing).type();
   if (kind != std::filesystem::file_type::not_found && kind != std::filesystem::file_type::regular)
     throw StoreError(fmt::format("{} is no ordinary file: give another name.", iTarget));
-  const Opened made(_Path, O_WRONLY | O_CREAT | O_TRUNC, "made");
+  struct stat old
+  {
+  };
+  const bool replaces = stat(_Target.c_str(), &old) == 0;
+  const mode_t permissions = replaces ? (old.st_mode & 0777) | S_IRUSR | S_IWUSR : 0666;
+  const Opened made(_Path, O_WRONLY | O_CREAT | O_TRUNC, "made", permissions);
+  if (replaces && fchmod(made.Handle(), permissions) != 0)
+    Fail(_Path, "given the permissions of the old file");
 }
 
 PendingFile::~PendingFile()

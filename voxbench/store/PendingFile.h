@@ -9,6 +9,7 @@ namespace voxbench
 //! target sees the old file or the new one, whenever this program or the machine stops.
 //!
 //! - Until then it is called as the target, with ".part-" and a number behind; it goes with its object.
+//! - It is for the same eyes as the file that it replaces: whoever may read or write that one. Its owner may do both.
 //! - Failures are thrown as StoreError.
 class PendingFile
 {
