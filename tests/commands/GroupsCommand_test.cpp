@@ -193,4 +193,10 @@ TEST(GroupsCommand, AGroupThatFailsIsARowWithItsReasonAndTheOthersAreListed)
   EXPECT_EQ(groups[2]["count"], 6);
 }
 
+TEST(GroupsCommand, ANameWithBracketsIsFoundAsItIsWritten)
+{
+  const std::string deck = voxtest::TemporaryFile("brackets.inp", "*NODE, NSET=BOLT[1]\n1, 0., 0., 0.\n");
+  EXPECT_EQ(NamesOf(GroupsOf({deck, "--name", "bolt[1]"})), std::vector<std::string>{"BOLT[1]"});
+}
+
 } // namespace

@@ -97,4 +97,29 @@ TEST(InfoCommand, LongListsOfFindingsEndWithTheirNumberUnlessAllIsAsked)
   EXPECT_THAT(voxtest::RunInProcess({"info", file, "--all"}).out, Not(HasSubstr("--all shows them")));
 }
 
+TEST(InfoCommand, TextDoesNotSteerTheTerminal)
+{
+  const std::string deck = voxtest::TemporaryFile(
+      "steering.inp",
+      "*HEADING\n\033]0;title\007 of\tBl\303\266cke \302\2332J\n*\033[31mNODES\n1\n*NODE\n1, 0., 0., 0.\n");
+  const auto run = voxtest::RunInProcess({"info", deck});
+  EXPECT_THAT(run.out, HasSubstr("?]0;title? of\tBl\303\266cke ??2J\n"));
+  EXPECT_THAT(run.out, HasSubstr("*?[31MNODES"));
+  EXPECT_THAT(run.out, Not(HasSubstr("\033")));
+}
+
+TEST(InfoCommand, ARefusalDoesNotSteerTheTerminal)
+{
+  const std::string deck = voxtest::TemporaryFile("steering.inp", "*\033[31mNODES\n1\n");
+  const auto run = voxtest::RunInProcess({"info", deck});
+  EXPECT_EQ(run.code, 3);
+  EXPECT_THAT(run.errors, HasSubstr("*?[31MNODES"));
+}
+
+TEST(InfoCommand, JsonKeepsWhatWouldSteerATerminal)
+{
+  const std::string deck = voxtest::TemporaryFile("steering.inp", "*NODE\n*HEADING\na\033b\302\233c\177d\n");
+  EXPECT_EQ(InfoOf(deck)["title"][0], "a\033b\302\233c\177d");
+}
+
 } // namespace

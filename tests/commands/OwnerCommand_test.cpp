@@ -88,4 +88,18 @@ TEST(OwnerCommand, WithoutAQuestionItIsAWrongUse)
   EXPECT_THAT(run.errors, HasSubstr("TAG"));
 }
 
+TEST(OwnerCommand, WhatFollowsTheIdOfAnOptionIsATag)
+{
+  const auto run = voxtest::RunInProcess({"owner", kDeck, "--node", "1", "2"});
+  EXPECT_THAT(run.out, HasSubstr("node 1"));
+  EXPECT_THAT(run.out, HasSubstr("tag 2"));
+}
+
+TEST(OwnerCommand, TwoDashesEndTheOptions)
+{
+  const auto run = voxtest::RunInProcess({"owner", "--node", "1", "--element", "10", "--", kDeck, "2"});
+  EXPECT_EQ(run.code, 0) << run.errors;
+  EXPECT_THAT(run.out, HasSubstr("tag 2"));
+}
+
 } // namespace

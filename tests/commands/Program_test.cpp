@@ -205,9 +205,11 @@ TEST(Program, AnOutputThatCannotBeWrittenIsAFailure)
 {
   if (!std::filesystem::exists("/dev/full"))
     GTEST_SKIP() << "there is no device that is always full";
-  const std::string line = VOXBENCH_PROGRAM " info '" + kDeck + "' >/dev/full 2>/dev/null";
-  const int status = std::system(line.c_str());
-  EXPECT_EQ(WEXITSTATUS(status), 1);
+  for (const std::string& arguments : {"info '" + kDeck + "'", std::string("--help"), std::string("info --help")})
+  {
+    const int status = std::system((VOXBENCH_PROGRAM " " + arguments + " >/dev/full 2>/dev/null").c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 1) << arguments;
+  }
 }
 
 TEST(Progress, DrawsNothingForQuickWork)

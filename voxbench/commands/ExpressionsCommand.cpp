@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/ExpressionsCommand.h"
-#include "voxbench/commands/ResultGroups.h"
+#include "voxbench/commands/FeatureNames.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -49,9 +49,11 @@ void ExpressionsCommand::DeclareOptions(CLI::App& ioParser)
   ioParser.add_option("--feature", _Feature, "Only features of that name; * and ? stand for any text")
       ->option_text("NAME");
   ioParser.add_option("--read", _Read, "Show the terms or points of an expression; may be given several times")
+      ->allow_extra_args(false)
       ->option_text("N");
   ioParser.add_option("--delete", _Delete, "Delete an expression, or all of them; may be given several times")
       ->transform(NumberOrAll, "", "")
+      ->allow_extra_args(false)
       ->option_text("N|all");
 }
 

@@ -6,22 +6,18 @@
 
 namespace voxbench
 {
-namespace
-{
 
-//! Names of a deck may have brackets: a name that is the pattern, letter by letter, is meant in any case.
-bool Matches(const std::string& iText, const std::string& iPattern)
+bool MatchesPattern(const std::string& iName, const std::string& iPattern)
 {
-  return strcasecmp(iText.c_str(), iPattern.c_str()) == 0 ||
-         fnmatch(iPattern.c_str(), iText.c_str(), FNM_CASEFOLD) == 0;
+  return strcasecmp(iName.c_str(), iPattern.c_str()) == 0 ||
+         fnmatch(iPattern.c_str(), iName.c_str(), FNM_CASEFOLD) == 0;
 }
-
-} // namespace
 
 bool IsNamed(const voxhost::Feature& iFeature, const std::string& iPattern)
 {
-  return Matches(LoadedModel::DisplayName(iFeature), iPattern) || Matches(iFeature.Name().ConvertToChar(), iPattern) ||
-         (iPattern.find('/') != std::string::npos && Matches(LoadedModel::PathOf(iFeature), iPattern));
+  return MatchesPattern(LoadedModel::DisplayName(iFeature), iPattern) ||
+         MatchesPattern(iFeature.Name().ConvertToChar(), iPattern) ||
+         (iPattern.find('/') != std::string::npos && MatchesPattern(LoadedModel::PathOf(iFeature), iPattern));
 }
 
 } // namespace voxbench

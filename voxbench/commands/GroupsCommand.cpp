@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/GroupsCommand.h"
 #include "voxbench/build/MaterialGroups.h"
+#include "voxbench/commands/FeatureNames.h"
 #include "voxbench/commands/GroupContent.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cctype>
 #include <fmt/format.h>
-#include <fnmatch.h>
 
 namespace voxbench
 {
@@ -97,7 +97,7 @@ int GroupsCommand::Run(Console& ioConsole)
 
 bool GroupsCommand::IsWanted(const std::string& iName) const
 {
-  return _Name.empty() || fnmatch(_Name.c_str(), iName.c_str(), FNM_CASEFOLD) == 0;
+  return _Name.empty() || MatchesPattern(iName, _Name);
 }
 
 void GroupsCommand::Report(voxhost::Feature& iGroup, const std::string& iName, GroupsReport& ioReport)

@@ -14,7 +14,7 @@ namespace
 
 int Unreadable(const ReadOutcome& iOutcome, Console& ioConsole)
 {
-  ioConsole.errors << "voxbench: " << iOutcome.Describe() << '\n';
+  ioConsole.errors << "voxbench: " << Printable(iOutcome.Describe()) << '\n';
   return kExitUnreadable;
 }
 
@@ -23,7 +23,7 @@ int Outcome(const std::string& iReason, Console& ioConsole)
 {
   if (iReason.empty())
     return kExitDone;
-  ioConsole.errors << "voxbench: " << iReason << '\n';
+  ioConsole.errors << "voxbench: " << Printable(iReason) << '\n';
   return kExitUnreadable;
 }
 

@@ -72,8 +72,12 @@ void OwnerCommand::DeclareOptions(CLI::App& ioParser)
 {
   _File.Declare(ioParser);
   ioParser.add_option("TAG", _Tags, "Tags of objects")->option_text(" ");
-  ioParser.add_option("--node", _Nodes, "Id of a node; may be given several times")->option_text("ID");
-  ioParser.add_option("--element", _Elements, "Id of an element; may be given several times")->option_text("ID");
+  ioParser.add_option("--node", _Nodes, "Id of a node; may be given several times")
+      ->allow_extra_args(false)
+      ->option_text("ID");
+  ioParser.add_option("--element", _Elements, "Id of an element; may be given several times")
+      ->allow_extra_args(false)
+      ->option_text("ID");
   ioParser.callback(
       [this]
       {

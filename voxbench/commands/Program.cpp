@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/Program.h"
+#include "voxbench/commands/OpenFile.h"
 #include "voxbench/commands/ProgramParser.h"
 
 #include <algorithm>
@@ -27,6 +28,13 @@ std::string NamesOf(const ProgramParser& iProgram)
   for (const CLI::App* const parser : iProgram.parsers)
     names += (names.empty() ? "" : ", ") + parser->get_name();
   return names;
+}
+
+int Print(const std::string& iText, Console& ioConsole)
+{
+  Output output(ioConsole.out);
+  output.Write(iText);
+  return FinishOutput(output, ioConsole, kExitDone);
 }
 
 } // namespace
@@ -59,13 +67,11 @@ int RunProgram(const std::vector<std::string>& iArguments, Console& ioConsole)
   }
   catch (const CLI::CallForHelp&)
   {
-    ioConsole.out << program.Help();
-    return kExitDone;
+    return Print(program.Help(), ioConsole);
   }
   catch (const CLI::CallForVersion& version)
   {
-    ioConsole.out << version.what() << '\n';
-    return kExitDone;
+    return Print(version.what() + std::string("\n"), ioConsole);
   }
   catch (const CLI::ParseError& wrong)
   {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/ResultGroups.h"
 #include "voxbench/build/SideNodes.h"
+#include "voxbench/commands/FeatureNames.h"
 #include "voxbench/commands/GroupContent.h"
 
 #include <algorithm>
-#include <fnmatch.h>
 #include <span>
 
 namespace voxbench
@@ -74,11 +74,6 @@ void AddGroup(const LoadedModel& iModel, voxhost::Feature& iGroup, const GroupKi
 }
 
 } // namespace
-
-bool MatchesPattern(const std::string& iName, const std::string& iPattern)
-{
-  return fnmatch(iPattern.c_str(), iName.c_str(), FNM_CASEFOLD) == 0;
-}
 
 std::vector<GroupNodes> NodesOfGroups(const LoadedModel& iModel, const std::vector<std::string>& iPatterns)
 {

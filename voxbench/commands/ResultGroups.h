@@ -22,7 +22,4 @@ struct GroupNodes
 //! Asks the groups whose name matches a pattern (* and ? stand for any text and any character) for their content.
 std::vector<GroupNodes> NodesOfGroups(const LoadedModel& iModel, const std::vector<std::string>& iPatterns);
 
-//! Whether a name matches a pattern, in any letters.
-bool MatchesPattern(const std::string& iName, const std::string& iPattern);
-
 } // namespace voxbench

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/ResultsCommand.h"
 #include "voxbench/build/ResultNames.h"
+#include "voxbench/commands/FeatureNames.h"
 #include "voxbench/commands/OpenFile.h"
 #include "voxbench/commands/Progress.h"
 #include "voxbench/readers/frd/FrdReader.h"
@@ -99,10 +100,12 @@ void ResultsCommand::DeclareOptions(CLI::App& ioParser)
       ->option_text("TYPE");
   ioParser.add_option("--version", _Versions, "A version by number, 3i for its imaginary part; last (default) or all")
       ->transform(CheckedVersion, "", "")
+      ->allow_extra_args(false)
       ->option_text("N");
   ioParser.add_option("--position", _Position, "Where on the mesh; the first that is available by default")
       ->option_text("POSITION");
   ioParser.add_option("--group", _Groups, "Only the nodes of groups of that name; * and ? stand for any text")
+      ->allow_extra_args(false)
       ->option_text("NAME");
   ioParser.add_option("--deck", _Deck, "The deck that was solved; by default the .inp of the same name beside FILE")
       ->option_text("DECK");
@@ -155,7 +158,7 @@ int ResultsCommand::Open(Console& ioConsole, LoadedResults& oResults)
   };
   if (const ReadOutcome outcome = Read(_File, ioConsole, options, records); !outcome.ok)
   {
-    ioConsole.errors << "voxbench: " << outcome.Describe() << '\n';
+    ioConsole.errors << "voxbench: " << Printable(outcome.Describe()) << '\n';
     return kExitUnreadable;
   }
   NeutralModel deck;
@@ -193,7 +196,7 @@ int ResultsCommand::OpenDeck(Console& ioConsole, NeutralModel& oDeck)
   const ReadOutcome outcome = ReadInp(_Deck, {}, oDeck);
   if (outcome.ok)
     return kExitDone;
-  ioConsole.errors << "voxbench: " << (isGiven ? "" : "no groups: ") << outcome.Describe() << '\n';
+  ioConsole.errors << "voxbench: " << (isGiven ? "" : "no groups: ") << Printable(outcome.Describe()) << '\n';
   _Deck.clear();
   return isGiven ? kExitUnreadable : kExitDone;
 }

@@ -163,12 +163,13 @@ void SumUpFindings(const NeutralModel& iRecords, InfoResult& oResult)
   for (const auto& [card, count] : diagnostics.unlisted)
     oResult.unlistedFindings += count;
 
+  std::map<std::string_view, Where> first; // of each card
+  for (const Diagnostic& finding : diagnostics.list)
+    first.try_emplace(finding.card, finding.where);
   for (const auto& [card, count] : diagnostics.unknownCards)
   {
-    const auto first = std::find_if(diagnostics.list.begin(), diagnostics.list.end(),
-                                    [&name = card](const Diagnostic& iFinding) { return iFinding.card == name; });
-    const bool listed = first != diagnostics.list.end();
-    oResult.unknownCards.push_back({card, count, listed ? PlaceOf(iRecords, first->where) : Place{}});
+    const auto found = first.find(card);
+    oResult.unknownCards.push_back({card, count, found != first.end() ? PlaceOf(iRecords, found->second) : Place{}});
   }
 }
 

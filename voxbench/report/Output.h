@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+#include "voxbench/report/Printable.h"
+
 #include <charconv>
 #include <ostream>
 #include <string>
@@ -8,7 +10,7 @@
 namespace voxbench
 {
 
-//! Buffered text on its way to a stream, for outputs of millions of numbers.
+//! Buffered text on its way to a stream, for outputs of millions of numbers. What would steer a terminal becomes '?'.
 class Output
 {
 public:
@@ -20,6 +22,7 @@ public:
   void Write(std::string_view iText)
   {
     _Buffer.append(iText);
+    MaskControls(_Buffer, _Buffer.size() - iText.size());
     if (_Buffer.size() >= kBlock)
       Flush();
   }
