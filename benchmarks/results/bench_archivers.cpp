@@ -257,12 +257,6 @@ double BuildSeconds(Results& ioResults, const Definition& iDefinition)
       });
 }
 
-bool Check(const char* iWhat, double iRatio, double iLimit)
-{
-  std::printf("%-60s %6.2f  (limit %.2f)%s\n", iWhat, iRatio, iLimit, iRatio <= iLimit ? "" : "  NOT MET");
-  return iRatio <= iLimit;
-}
-
 // A feature whose adaptor is asked both ways: as the host does, and as a feature type does itself.
 struct BenchFeature
 {
@@ -342,8 +336,8 @@ int main()
   std::printf("queries and scans %.1f ns, fetching %.1f ns, with all definitions kept %.1f ns\n",
               alone / kFetches * 1e9, fetchFew / kFetches * 1e9, fetchAll / kFetches * 1e9);
   std::printf("queries and blocks %.0f us, building the area and freeing it %.0f us\n", blocks * 1e6, built * 1e6);
-  bool met = Check("fetching a kept archiver / queries and scans", fetchFew / alone, 1.2);
-  met = Check("fetching among 40000 kept / fetching among 100 kept", fetchAll / fetchFew, 1.1) && met;
-  met = Check("building the area / queries and blocks", built / blocks, 1.5) && met;
+  bool met = voxmeasure::Check("fetching a kept archiver / queries and scans", fetchFew / alone, 1.2);
+  met = voxmeasure::Check("fetching among 40000 kept / fetching among 100 kept", fetchAll / fetchFew, 1.1) && met;
+  met = voxmeasure::Check("building the area / queries and blocks", built / blocks, 1.5) && met;
   return met ? 0 : 1;
 }

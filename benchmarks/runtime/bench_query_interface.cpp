@@ -63,12 +63,6 @@ double Hit(VOXBaseUnknown* iComponent, const IID& iInterface)
       });
 }
 
-bool Check(const char* iWhat, double iRatio, double iLimit)
-{
-  std::printf("%-52s %6.2f  (limit %.2f)%s\n", iWhat, iRatio, iLimit, iRatio <= iLimit ? "" : "  NOT MET");
-  return iRatio <= iLimit;
-}
-
 } // namespace
 
 int main()
@@ -98,9 +92,9 @@ int main()
   }
   std::printf("atomic pair %.2f ns, hit %.2f ns, miss %.2f ns, hit among 300 interfaces and 100 types %.2f ns\n", pair,
               hit, miss, wide);
-  bool met = Check("hit / atomic pair", hit / pair, 1.);
-  met = Check("miss / hit", miss / hit, 1.1) && met;
-  met = Check("300 interfaces, 100 types / 3 interfaces, 1 type", wide / hit, 1.3) && met;
+  bool met = voxmeasure::Check("hit / atomic pair", hit / pair, 1.);
+  met = voxmeasure::Check("miss / hit", miss / hit, 1.1) && met;
+  met = voxmeasure::Check("300 interfaces, 100 types / 3 interfaces, 1 type", wide / hit, 1.3) && met;
 
   small->Release();
   for (VOXBaseUnknown* const component : many)
