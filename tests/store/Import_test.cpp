@@ -162,4 +162,14 @@ TEST_F(Import, ADocumentThatIsReplacedKeepsItsPermissions)
   EXPECT_EQ(std::filesystem::status(document).permissions(), perms::owner_read | perms::owner_write);
 }
 
+TEST_F(Import, ALinkToNoFileYetIsFollowed)
+{
+  const std::filesystem::path link = std::filesystem::path(document).parent_path() / "link.voxdoc";
+  std::filesystem::create_symlink("plate.voxdoc", link);
+  EXPECT_EQ(RunInProcess({"import", deck, "-o", link.string(), "--force"}).code, 0);
+  EXPECT_TRUE(std::filesystem::is_symlink(link));
+  EXPECT_TRUE(std::filesystem::is_regular_file(document));
+  std::filesystem::remove(link);
+}
+
 } // namespace

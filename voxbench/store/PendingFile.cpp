@@ -16,6 +16,8 @@ namespace voxbench
 namespace
 {
 
+constexpr int kMostLinks = 40; //!< as many as the system follows
+
 [[noreturn]] void Fail(const std::string& iFile, const char* iWhat)
 {
   throw StoreError(fmt::format("{} cannot be {}: {}.", iFile, iWhat, std::strerror(errno)));
@@ -52,8 +54,18 @@ std::string WhereALinkLeads(const std::string& iFile)
   std::error_code unknown;
   if (!std::filesystem::is_symlink(iFile, unknown))
     return iFile;
-  const std::filesystem::path led = std::filesystem::weakly_canonical(iFile, unknown);
-  return unknown ? iFile : led.string();
+  std::filesystem::path led = std::filesystem::canonical(iFile, unknown);
+  if (!unknown)
+    return led.string();
+  led = iFile; // to no file yet: the place that the last link names
+  for (int links = 0; links < kMostLinks && std::filesystem::is_symlink(led, unknown); ++links)
+  {
+    const std::filesystem::path next = std::filesystem::read_symlink(led, unknown);
+    if (unknown)
+      return iFile;
+    led = led.parent_path() / next;
+  }
+  return led.string();
 }
 
 void WriteAll(int iHandle, const char* iData, std::size_t iSize, const std::string& iFile)
