@@ -3,7 +3,10 @@
 #include "RunProgram.h"
 #include "Shell.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <stdlib.h>
+#include <unistd.h>
 
 using testing::HasSubstr;
 
@@ -33,6 +36,17 @@ std::string Shown(const std::string& iTyped, const std::string& iAwaited)
   return run.out;
 }
 
+class ZshAtATerminal : public testing::Test
+{
+  void SetUp() override
+  {
+    const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+    if (terminal < 0)
+      GTEST_SKIP() << "this system has no pseudo terminals (/dev/pts)";
+    close(terminal);
+  }
+};
+
 TEST(ZshCompletion, HasNoErrorInItsSyntax)
 {
   const voxtest::ShellRun run = voxtest::RunShell("zsh -n " + voxtest::CompletionFile("zsh"));
@@ -53,20 +67,20 @@ TEST(ZshCompletion, SpecifiesTheOptionsThatEachHelpLists)
   }
 }
 
-TEST(ZshCompletion, CompletesASubcommandAndAnOption)
+TEST_F(ZshAtATerminal, CompletesASubcommandAndAnOption)
 {
   EXPECT_THAT(Shown("voxbench gro", "groups "), HasSubstr("voxbench groups "));
   EXPECT_THAT(Shown("voxbench groups bracket.inp --by", "--by-material"), HasSubstr("--by-material"));
 }
 
-TEST(ZshCompletion, OffersTheValuesOfAnOptionThatAreKnown)
+TEST_F(ZshAtATerminal, OffersTheValuesOfAnOptionThatAreKnown)
 {
   const std::string shown = Shown("voxbench groups --kind ", "NODE");
   EXPECT_THAT(shown, HasSubstr("EDGE"));
   EXPECT_THAT(shown, HasSubstr("ELEMENT"));
 }
 
-TEST(ZshCompletion, OffersTheFilesThatASubcommandOpens)
+TEST_F(ZshAtATerminal, OffersTheFilesThatASubcommandOpens)
 {
   const std::string shown = Shown("voxbench groups ", "with");
   EXPECT_THAT(shown, HasSubstr("bracket.inp"));
