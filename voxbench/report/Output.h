@@ -22,7 +22,6 @@ public:
   void Write(std::string_view iText)
   {
     _Buffer.append(iText);
-    MaskControls(_Buffer, _Buffer.size() - iText.size());
     if (_Buffer.size() >= kBlock)
       Flush();
   }
@@ -39,6 +38,7 @@ public:
   //! Hands everything over to the stream. @return false if the stream does not take it.
   bool Flush()
   {
+    MaskControls(_Buffer);
     _Stream.write(_Buffer.data(), static_cast<std::streamsize>(_Buffer.size()));
     _Buffer.clear();
     _Stream.flush();
