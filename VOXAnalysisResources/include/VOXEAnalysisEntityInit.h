@@ -18,8 +18,8 @@ public:
   HRESULT Remove(int iMode) override;
 
   //! 4. Whether the entity may go into a set: the set's physical type authorises the entity's, or an imported entity
-  //! meets a set of its category. Entity and set must be explicit, their model must have rules data (asserted).
-  //! @param iSet borrowed; null answers 0. @return 1 or 0.
+  //! meets a set of its category. An entity or a set that is not explicit answers 0. The set's model and its rules data
+  //! must be there (asserted). @param iSet borrowed; null answers 0. @return 1 or 0.
   int CheckAnalysisSet(const VOXISamAnalysisSet* iSet) override;
 
   //! 5. The type of set that the entity belongs in, by its feature type. The component must be a feature (asserted).

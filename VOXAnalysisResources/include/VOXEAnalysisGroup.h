@@ -8,7 +8,9 @@
 //! A group whose content is read from the explicit model. The feature type supplies operations 1, 2, 3, 6 and 7.
 //!
 //! - The content comes from the group's children in the model while the feature is up to date and has children, and from
-//!   operation 7 otherwise. A collector that is attached to the group is reused as long as it is up to date.
+//!   operation 7 otherwise. With children of which none is of the kind's physical type the group is empty.
+//! - A collector that is attached to the group's object is reused as long as it is up to date. A new one is attached
+//!   while the feature is up to date.
 //! - GetContent asks IsGroupOf through the virtual table and needs it to succeed, but does not look at its answer.
 class VOX_ANALYSIS_API VOXEAnalysisGroup : public VOXISamGroup
 {

@@ -15,7 +15,8 @@ public:
   HRESULT Initialize() override;
 
   //! 2. Whether the set may go under a parent: the parent's physical type authorises the set's, or an imported set meets
-  //! a parent of its category. Both must be explicit, their model must have rules data (asserted).
+  //! a parent of its category. A set or a parent that is not explicit answers 0. The parent's model and its rules data
+  //! must be there (asserted).
   //! @param iParent borrowed; null answers 0. @param oQuality not preset. Set to 0 or 1 by the set's type, whatever the
   //! answer, once the authorised children were asked for; untouched for any other type and in all other cases.
   //! @return 1 or 0.

@@ -28,13 +28,14 @@ public:
   //! object is called so. Elements that are no basic components are passed over.
   bool FindInList(const VOXUnicodeString& iName, const VOXListValVOXBaseUnknown_var& iList);
 
-  //! The components in the attribute "Values", which must be there (asserted).
+  //! The components in the attribute "Values". Attribute and access to it must be there (asserted).
   //! @param iOnStartup whether those of the start-up are meant. @param iSpec borrowed; null answers null.
   //! @return caller deletes; null when there is no start-up or no list.
   VOXListValVOXBaseUnknown_var* GetValuesOnInstanceOrStartup(bool iOnStartup, const VOXISpecObject* iSpec);
 
   //! Removes a basic component from the feature and marks it for rebuild if it was up to date.
-  //! @param ipiBasicComp borrowed. @return E_INVALIDARG for null; else S_OK, whatever the removal gave.
+  //! @param ipiBasicComp borrowed. @return E_INVALIDARG for null; else S_OK, whatever the removal gave, and when there
+  //! is no feature.
   HRESULT RemoveBasicComp(const VOXISamBasicComponent* ipiBasicComp);
 
   //! Whether the values of a layered component no longer fit: its start-up counts other value kinds, or there are not
@@ -42,6 +43,8 @@ public:
   bool CheckMultiLayer(const VOXISamBasicComponent* ipiBasicComp);
 
   //! Adds to a layered component, once per layer, the values that its start-up has and it lacks, and writes the number of
-  //! value kinds into "ValuesDim". @param ipiBasicComp borrowed, not null (asserted). @return S_OK.
+  //! value kinds into "ValuesDim". What is a feature must be in a container, with access to its attributes, and its
+  //! start-up must have the attribute "Values" (asserted). @param ipiBasicComp borrowed, not null (asserted).
+  //! @return S_OK.
   HRESULT UpgradeMultiLayer(const VOXISamBasicComponent* ipiBasicComp);
 };

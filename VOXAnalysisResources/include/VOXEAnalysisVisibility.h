@@ -39,8 +39,8 @@ public:
   //! 7. The no-show status that was set last.
   unsigned char IsNoShow() override;
 
-  //! 8. The objects that the feature is shown under: those that the entity or the set names, else the feature's father.
-  //! @return caller deletes; null when there is none.
+  //! 8. The objects that the feature is shown under: of an entity those that it names, and nothing else; of a set those
+  //! that it names, else its father; of any other feature its father. @return caller deletes; null when there is none.
   VOXListValVOXBaseUnknown_var* GetFatherForGraphAnd3D() override;
 
 private:

@@ -73,7 +73,7 @@ public:
   virtual HRESULT GetCharacCollectorsForOccurrences(int& oNb, const VOXAnalysisCharacCollector* const*& oCollectors,
                                                     unsigned char iFlag);
 
-  //! 11. Deletes one collector of the feature's context. @param ioCollector null afterwards.
+  //! 11. Deletes one collector of the feature's context. @param ioCollector null on S_OK, else as it was.
   virtual HRESULT DeleteCharacCollector(const VOXAnalysisCharacCollector*& ioCollector);
 
   //! 12. Deletes all collectors of the feature's context.
@@ -104,7 +104,8 @@ protected:
 
   //! The archiver that is kept for a definition. One that no longer matches the feature's time stamp is dropped.
   //! @param iPhysicalType, iVersion, iPosition the definition.
-  //! @param oArchiver preset to null; borrowed; null when none is kept. @return E_FAIL for an unknown definition, too.
+  //! @param oArchiver preset to null; borrowed; null when none is kept; stays set when only the feature is missing that
+  //! the stamp is asked of. @return S_OK; E_FAIL after an error report, for an unknown definition, too.
   HRESULT GetCollectorArchiver(int iPhysicalType, const VOXSamCharacVersion& iVersion, const VOXString& iPosition,
                                VOXAnalysisCollectorArchiver*& oArchiver);
 
@@ -115,6 +116,7 @@ protected:
 
   //! Gives a collector the archiver of its definition, a new one if none is kept. Nothing is done for null, for a feature
   //! that is not authorised, for a collector that lacks values somewhere or has an archiver, and for derived versions.
+  //! A new archiver that cannot be stored is dropped. A collector without a definition is a failure.
   //! @param iCollector borrowed. @param iFlag not read.
   HRESULT AssignArchiverToCollector(const VOXAnalysisCharacCollector* iCollector, CollectorArchiveFlag iFlag);
 

@@ -36,7 +36,7 @@ public:
   //! @param iCollectValues must be 0.
   virtual HRESULT GetExpression(int iNumber, VOXAnalysisExplicitExpression& oExpression, unsigned char iCollectValues);
 
-  //! 5. Deletes one expression from the model. @param iExpression must not be empty; empty afterwards.
+  //! 5. Deletes one expression from the model. @param iExpression must not be empty; empty once it is deleted.
   virtual HRESULT DeleteExpression(VOXAnalysisExplicitExpression& iExpression);
 
   //! 6. Deletes the expressions that were listed; those of a list that was never built stay.

@@ -59,8 +59,8 @@ class VOX_HOST_API VOXICharacCollector : public VOXBaseUnknown
   virtual HRESULT GetCharacCollectorsForOccurrences(int& oNb, const VOXAnalysisCharacCollector* const*& oCollectors,
                                                     unsigned char iFlag) = 0;
 
-  //! 11. Deletes one collector of the feature. @param ioCollector null afterwards. @return S_OK; E_FAIL after an error
-  //! report.
+  //! 11. Deletes one collector of the feature. @param ioCollector null on S_OK, else as it was. @return S_OK; E_FAIL
+  //! after an error report.
   virtual HRESULT DeleteCharacCollector(const VOXAnalysisCharacCollector*& ioCollector) = 0;
 
   //! 12. Deletes all collectors of the feature. @return S_OK; E_FAIL after an error report.

@@ -32,3 +32,5 @@ class VOX_HOST_API VOXICharacCollectorDerivatives : public VOXBaseUnknown
                                                 const VOXAnalysisCharacCollector*& oFirst,
                                                 const VOXAnalysisCharacCollector*& oSecond) = 0;
 };
+
+using VOXICharacCollectorDerivatives_var = VOXHandle<VOXICharacCollectorDerivatives>;

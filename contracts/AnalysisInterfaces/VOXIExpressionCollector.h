@@ -30,8 +30,8 @@ class VOX_HOST_API VOXIExpressionCollector : public VOXBaseUnknown
   virtual HRESULT GetExpression(int iNumber, VOXAnalysisExplicitExpression& oExpression,
                                 unsigned char iCollectValues) = 0;
 
-  //! 5. Deletes one expression from the model. @param ioExpression empty afterwards. @return S_OK; E_FAIL after an error
-  //! report.
+  //! 5. Deletes one expression from the model. @param ioExpression empty once it is deleted. @return S_OK; E_FAIL after
+  //! an error report.
   virtual HRESULT DeleteExpression(VOXAnalysisExplicitExpression& ioExpression) = 0;
 
   //! 6. Deletes the expressions that were listed. @return S_OK; E_FAIL after an error report.

@@ -19,3 +19,5 @@ class VOX_HOST_API VOXISamAnalysisContextCheck : public VOXBaseUnknown
   //! 2. The editor is about to close. Borrowed. @return S_OK.
   virtual HRESULT ClosingEditor(VOXFrmEditor* iEditor) = 0;
 };
+
+using VOXISamAnalysisContextCheck_var = VOXHandle<VOXISamAnalysisContextCheck>;

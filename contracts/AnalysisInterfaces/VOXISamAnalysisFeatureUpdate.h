@@ -27,3 +27,5 @@ class VOX_HOST_API VOXISamAnalysisFeatureUpdate : public VOXBaseUnknown
   //! 3. Marks the feature out of date.
   virtual void SetNoUpToDate() = 0;
 };
+
+using VOXISamAnalysisFeatureUpdate_var = VOXHandle<VOXISamAnalysisFeatureUpdate>;

@@ -44,3 +44,5 @@ class VOX_HOST_API VOXISamBasicComponentManager : public VOXBaseUnknown
   //! 5. Whether changes of the component are recorded in macros. @param iComponent borrowed.
   virtual bool IsBasicComponentRecordable(const VOXISamBasicComponent* iComponent) = 0;
 };
+
+using VOXISamBasicComponentManager_var = VOXHandle<VOXISamBasicComponentManager>;

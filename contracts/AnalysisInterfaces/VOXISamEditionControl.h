@@ -13,3 +13,5 @@ class VOX_HOST_API VOXISamEditionControl : public VOXBaseUnknown
   //! 1. Whether edition is allowed. @param oAllowed 1 or 0. @return S_OK.
   virtual HRESULT AllowEdition(unsigned char& oAllowed) = 0;
 };
+
+using VOXISamEditionControl_var = VOXHandle<VOXISamEditionControl>;

@@ -25,3 +25,5 @@ class VOX_HOST_API VOXISamEditionCusto : public VOXBaseUnknown
   //! 2. Tells the feature what happens in the panel. @return S_OK.
   virtual HRESULT ActionPanel(VOXSamTypeActionPanel iAction) = 0;
 };
+
+using VOXISamEditionCusto_var = VOXHandle<VOXISamEditionCusto>;

@@ -23,3 +23,5 @@ class VOX_HOST_API VOXISamEntityVisu : public VOXBaseUnknown
   //! added to. @return S_OK.
   virtual HRESULT BuildHighlightLook(const VOXPathElement& iElement, VOXRepPath& ioHighlight) = 0;
 };
+
+using VOXISamEntityVisu_var = VOXHandle<VOXISamEntityVisu>;

@@ -27,7 +27,7 @@ class VOX_HOST_API VOXISamImportDefine : public VOXBaseUnknown
   //! 3. Suffixes of the files that can be imported. @param ioTypes they are appended. @return S_OK.
   virtual HRESULT GetFileTypes(VOXListValVOXString& ioTypes) = 0;
 
-  //! 4. Frame with further options, in the import panel. @return owned by the panel; null for none.
+  //! 4. Frame with further options, in the import panel. @return borrowed: the panel owns it; null for none.
   virtual VOXDlgFrame* GetUserFrame(VOXDialog* iParent, VOXDocument* iDocument) = 0;
 
   //! 5. The options as automation values. @param oValues caller destroys it with DestroySafeArray. @return S_OK.
@@ -39,3 +39,5 @@ class VOX_HOST_API VOXISamImportDefine : public VOXBaseUnknown
   //! 7. Sets the options. @param iValues borrowed. @return S_OK; a failure.
   virtual HRESULT SetValues(SAFEARRAY* iValues) = 0;
 };
+
+using VOXISamImportDefine_var = VOXHandle<VOXISamImportDefine>;

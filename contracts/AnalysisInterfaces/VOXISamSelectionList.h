@@ -16,6 +16,7 @@ enum VOXSamSelectionMode : int
 
 //! The values that a person chooses from. Implemented by: basic components of late type "SAMListManager", by deriving
 //! from VOXESamEnumManager and a tie (VOXTieSelectionList below). Called by: the host's panels.
+//! - Values are counted from 1; 0 is none of them.
 class VOX_HOST_API VOXISamSelectionList : public VOXBaseUnknown
 {
   VOX_INTERFACE(VOXISamSelectionList)

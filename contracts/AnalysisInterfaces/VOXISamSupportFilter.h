@@ -27,3 +27,5 @@ class VOX_HOST_API VOXISamSupportFilter : public VOXBaseUnknown
   //! @return S_OK; E_FAIL without one.
   virtual HRESULT GetNLSid(const VOXBaseUnknown* iSupport, VOXString& oId) = 0;
 };
+
+using VOXISamSupportFilter_var = VOXHandle<VOXISamSupportFilter>;

@@ -8,7 +8,8 @@
 //!
 //! - Instantiated where the feature type is defined, so that the host needs no header of the adaptor.
 //! - A tie owns its adaptor: made with it, attached to the same component, destroyed with it.
-//! - Each interface that is reached this way brings its own tie, `VOXTie<Interface>`, which forwards its operations.
+//! - Each interface that is reached this way brings its own tie, which forwards its operations: VOXTieFeatureUpgrade
+//!   stands beside VOXISamFeatureUpgrade, and so on.
 template <class Interface, class Adaptor>
 class VOXTieBase : public Interface
 {

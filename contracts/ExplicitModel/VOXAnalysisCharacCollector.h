@@ -54,6 +54,6 @@ private:
   //! The collector's archiver, borrowed; null when there is none. @return S_OK.
   HRESULT GetArchiver(const VOXAnalysisCollectorArchiver*& oArchiver) const;
 
-  //! Gives the collector an archiver, on which it takes its own reference; null takes it away. @return S_OK.
+  //! Gives the collector an archiver: keeper takes its own; null takes it away. @return S_OK.
   HRESULT SetArchiver(const VOXAnalysisCollectorArchiver* iArchiver) const;
 };

@@ -59,7 +59,7 @@ class VOX_HOST_API VOXISpecAttrAccess : public VOXBaseUnknown
   //! @return S_OK; E_FAIL for an attribute of another type.
   virtual HRESULT PutInteger(const VOXISpecAttrKey* iKey, std::int32_t iValue, int iMode) = 0;
 
-  //! 14. Adds a feature to a list. The list takes its own reference. @param iKey key of the list. @param iObject the
+  //! 14. Adds a feature to a list: keeper takes its own. @param iKey key of the list. @param iObject the
   //! feature.
   //! @param iContext always null.
   //! @param iShared always false. @param iMode always 0. @return S_OK; E_FAIL when the attribute is no list of features.

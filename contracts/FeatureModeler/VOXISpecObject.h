@@ -67,7 +67,7 @@ class VOX_HOST_API VOXISpecObject : public VOXBaseUnknown
   virtual std::int32_t GetTimeStamp() const = 0;
 
   //! 13. The attributes, anywhere in the document, that refer to this feature or hold it; a list once for each time.
-  //! @param ioPointings what is found is appended; the receiver deletes every entry.
+  //! @param ioPointings what is found is appended; caller deletes every entry.
   virtual HRESULT GetPointings(VOXListPtrVOXSpecPointing& ioPointings) const = 0;
 
   //! 14. Removes a component of this feature, wherever an attribute of the feature holds it.

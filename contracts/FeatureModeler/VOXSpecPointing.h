@@ -3,7 +3,7 @@
 
 #include "FeatureModeler/VOXISpecAttrAccess.h"
 
-//! One attribute of some feature that refers to a feature. A value; the receiver of a list of them deletes it.
+//! One attribute of some feature that refers to a feature. A value; whoever asks for a list of them deletes it.
 class VOX_HOST_API VOXSpecPointing
 {
 public:
@@ -22,7 +22,7 @@ private:
   VOXISpecAttrKey_var _Key;
 };
 
-//! List of pointings, counted from 1. It does not own its entries: the receiver deletes every one.
+//! List of pointings, counted from 1. It does not own its entries: caller deletes every one.
 class VOX_HOST_API VOXListPtrVOXSpecPointing
 {
 public:

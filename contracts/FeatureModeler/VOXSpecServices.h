@@ -20,7 +20,7 @@ VOX_HOST_API unsigned int VOXGetUniqueIdentifier(const VOXISpecObject_var& iFeat
 class VOX_HOST_API VOXSpecPubServices
 {
 public:
-  //! Writes a feature into an attribute while a document is upgraded. The attribute takes its own reference.
+  //! Writes a feature into an attribute while a document is upgraded: keeper takes its own.
   //! @param iAccess, iKey access to the feature that has the attribute, and its key; borrowed. @param iObject the
   //! feature that is written.
   //! @param iPosition in a list: from 1, the element that is replaced; 0 to append. In a single attribute: 0.

@@ -22,3 +22,5 @@ class VOX_HOST_API VOXIRedrawEvent : public VOXBaseUnknown
   //! 8. Requests a redraw.
   virtual void RequestRedraw() = 0;
 };
+
+using VOXIRedrawEvent_var = VOXHandle<VOXIRedrawEvent>;

@@ -13,3 +13,5 @@ class VOX_HOST_API VOXIMSHVisuGrouper : public VOXBaseUnknown
   //! 1. The visualisation object of the feature, borrowed, opaque; null when there is none.
   virtual void* GetVisuObject() = 0;
 };
+
+using VOXIMSHVisuGrouper_var = VOXHandle<VOXIMSHVisuGrouper>;

@@ -12,8 +12,8 @@ public:
   //! Switches a channel; all are inactive at the start. An active channel keeps what is put.
   static void SetActive(VOXTrace& ioTrace, bool iActive);
 
-  //! What was put since the last Clear, lines ended by '\n'. What the channel is given while it is not active, too, is
-  //! kept when it was told to keep everything.
+  //! What was put since the last Clear, lines ended by line feeds. What the channel is given while it is not active is
+  //! kept, too, when it was told to keep everything.
   static std::string Text(const VOXTrace& iTrace);
   static void Clear(VOXTrace& ioTrace);
 
