@@ -2,6 +2,7 @@
 // Whatever happens while a document is written: there is the old one or the new one, whole.
 #include "UpgradedDocument.h"
 
+#include <csignal>
 #include <sqlite3.h>
 #include <unistd.h>
 
@@ -56,6 +57,17 @@ TEST_F(UpgradeSafety, BeingKilledAtAnyWriteLeavesTheOldDocumentWhole)
       return;
   }
   FAIL() << "no limit was high enough";
+}
+
+TEST_F(UpgradeSafety, ASignalThatEndsItLeavesNoOtherFileBehind)
+{
+  for (int blocks = 0; blocks <= 48; blocks += 12)
+  {
+    const auto run = UpgradeUnder("ulimit -c 0; ulimit -f " + std::to_string(blocks) + ";");
+    EXPECT_EQ(run.code, 128 + SIGXFSZ) << blocks;
+    EXPECT_EQ(FilesInFolder(), 1u) << blocks;
+    EXPECT_EQ(voxtest::ReadText(file), original) << blocks;
+  }
 }
 
 TEST_F(UpgradeSafety, BeingKilledAtAnyMomentLeavesTheOldOrTheNewDocumentWhole)

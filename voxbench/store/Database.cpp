@@ -49,6 +49,13 @@ Database::~Database()
   sqlite3_close(_Handle);
 }
 
+void Database::KeepNoJournal()
+{
+  sqlite3_db_config(_Handle, SQLITE_DBCONFIG_DEFENSIVE, 0, nullptr); // it would keep the journal, silently
+  Execute("PRAGMA journal_mode = OFF");
+  sqlite3_db_config(_Handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+}
+
 void Database::Close()
 {
   sqlite3* const handle = _Handle;

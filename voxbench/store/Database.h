@@ -50,7 +50,8 @@ public:
   void Execute(const char* iStatement);
   std::int64_t Integer(const char* iQuestion); //!< the first column of the first row; 0 when there is none
   bool HasTable(const char* iName);
-  void Close(); //!< what its destructor does, but failures are thrown
+  void KeepNoJournal(); //!< for a file that goes when anything fails
+  void Close();         //!< what its destructor does, but failures are thrown
   sqlite3* Handle() const { return _Handle; }
 
   //! Throws what the database says about a result code other than success.

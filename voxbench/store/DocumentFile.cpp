@@ -109,7 +109,7 @@ void WriteFeaturesAndObjects(const Database& ioDatabase, const LoadedModel& iMod
 void WriteAll(const std::string& iFile, const LoadedModel& iModel, const StoreProgress& iProgress)
 {
   Database database(iFile, Database::Mode::kCreate);
-  database.Execute("PRAGMA journal_mode = OFF"); // nobody has seen the file yet: it goes when something fails
+  database.KeepNoJournal(); // nobody has seen the file yet
   database.Execute("PRAGMA synchronous = OFF");
   database.Execute(fmt::format("PRAGMA application_id = {}", kApplicationId).c_str());
   database.Execute(fmt::format("PRAGMA user_version = {}", kFormatVersion).c_str());
@@ -186,7 +186,7 @@ std::string RewriteDocumentFile(const std::string& iFile, const LoadedModel& iMo
                    PendingFile pending(iFile);
                    pending.CopyFrom(iFile);
                    Database database(pending.Path(), Database::Mode::kWrite);
-                   database.Execute("PRAGMA journal_mode = OFF"); // the old file is the journal
+                   database.KeepNoJournal(); // the old file is the journal
                    database.Execute("PRAGMA synchronous = OFF");
                    database.Execute("BEGIN IMMEDIATE");
                    RefuseOther(database, iModel);

@@ -86,7 +86,7 @@ void WriteAll(int iHandle, const char* iData, std::size_t iSize, const std::stri
 
 PendingFile::PendingFile(const std::string& iTarget)
     : _Target(WhereALinkLeads(iTarget)),
-      _Path(fmt::format("{}.part-{}", _Target, getpid()))
+      _Part(fmt::format("{}.part-{}", _Target, getpid()))
 {
   std::error_code missing;
   const auto kind = std::filesystem::status(_Target, missing).type();
@@ -97,26 +97,20 @@ PendingFile::PendingFile(const std::string& iTarget)
   };
   const bool replaces = stat(_Target.c_str(), &old) == 0;
   const mode_t permissions = replaces ? (old.st_mode & 0777) | S_IRUSR | S_IWUSR : 0666;
-  const Opened made(_Path, O_WRONLY | O_CREAT | O_TRUNC, "made", permissions);
+  const Opened made(Path(), O_WRONLY | O_CREAT | O_TRUNC, "made", permissions);
   if (replaces && fchmod(made.Handle(), permissions) != 0)
-    Fail(_Path, "given the permissions of the old file");
-}
-
-PendingFile::~PendingFile()
-{
-  if (!_IsPlaced)
-    unlink(_Path.c_str());
+    Fail(Path(), "given the permissions of the old file");
 }
 
 void PendingFile::CopyFrom(const std::string& iFile) const
 {
   const Opened source(iFile, O_RDONLY, "read");
-  const Opened target(_Path, O_WRONLY | O_TRUNC, "written");
+  const Opened target(Path(), O_WRONLY | O_TRUNC, "written");
   struct stat known
   {
   };
   if (fstat(source.Handle(), &known) == 0 && fchmod(target.Handle(), known.st_mode & 07777) != 0)
-    Fail(_Path, "given the permissions of the old file");
+    Fail(Path(), "given the permissions of the old file");
   std::vector<char> block(std::size_t{1} << 20);
   for (;;)
   {
@@ -127,14 +121,14 @@ void PendingFile::CopyFrom(const std::string& iFile) const
       Fail(iFile, "read");
     if (got == 0)
       return;
-    WriteAll(target.Handle(), block.data(), static_cast<std::size_t>(got), _Path);
+    WriteAll(target.Handle(), block.data(), static_cast<std::size_t>(got), Path());
   }
 }
 
 void PendingFile::Replace()
 {
   Settle();
-  if (rename(_Path.c_str(), _Target.c_str()) != 0)
+  if (rename(Path().c_str(), _Target.c_str()) != 0)
     Fail(_Target, "replaced");
   _IsPlaced = true;
   SettleFolder();
@@ -145,6 +139,7 @@ std::string PendingFile::ReplaceKeepingOld()
   if (access(_Target.c_str(), W_OK) != 0)
     Fail(_Target, "written");
   Settle();
+  const EndingSignalsWait wait; // the backup comes with the new file or not at all
   const std::string backup = KeepOld();
   try
   {
@@ -175,13 +170,13 @@ std::string PendingFile::KeepOld() const
 bool PendingFile::TakeFreePlace()
 {
   Settle();
-  if (link(_Path.c_str(), _Target.c_str()) != 0)
+  if (link(Path().c_str(), _Target.c_str()) != 0)
   {
     if (errno == EEXIST)
       return false;
     Fail(_Target, "made");
   }
-  unlink(_Path.c_str());
+  unlink(Path().c_str());
   _IsPlaced = true;
   SettleFolder();
   return true;
@@ -189,9 +184,9 @@ bool PendingFile::TakeFreePlace()
 
 void PendingFile::Settle() const
 {
-  const Opened file(_Path, O_RDWR, "written");
+  const Opened file(Path(), O_RDWR, "written");
   if (fsync(file.Handle()) != 0)
-    Fail(_Path, "written");
+    Fail(Path(), "written");
 }
 
 //! The new name counts once the folder is on the disk. A file system that cannot do it keeps its own order.

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+#include "voxbench/store/UnfinishedFile.h"
+
 #include <string>
 
 namespace voxbench
@@ -8,7 +10,8 @@ namespace voxbench
 //! A file that is written beside another one, whose place it takes in one step when it is whole. Whoever looks at the
 //! target sees the old file or the new one, whenever this program or the machine stops.
 //!
-//! - Until then it is called as the target, with ".part-" and a number behind; it goes with its object.
+//! - Until then it is called as the target, with ".part-" and a number behind; it goes with its object, and with a
+//!   program that a signal ends (see UnfinishedFile.h).
 //! - It is for the same eyes as the file that it replaces: whoever may read or write that one. Its owner may do both.
 //! - Failures are thrown as StoreError.
 class PendingFile
@@ -18,9 +21,8 @@ public:
   explicit PendingFile(const std::string& iTarget);
   PendingFile(const PendingFile&) = delete;
   PendingFile& operator=(const PendingFile&) = delete;
-  ~PendingFile();
 
-  const std::string& Path() const { return _Path; }
+  const std::string& Path() const { return _Part.Path(); }
 
   //! Fills it with the bytes of another file.
   void CopyFrom(const std::string& iFile) const;
@@ -41,7 +43,7 @@ private:
   void SettleFolder() const;
 
   std::string _Target;
-  std::string _Path;
+  UnfinishedFile _Part;
   bool _IsPlaced = false;
 };
 
