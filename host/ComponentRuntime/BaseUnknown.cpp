@@ -251,10 +251,8 @@ void VOXBaseUnknown::operator delete(void* iMemory)
 
 VOXMetaClass* VOXBaseUnknown::MetaObject()
 {
-  static VOXMetaClass* meta = nullptr;
-  if (meta == nullptr) // a registration that was made to fail is tried again
-    meta = fct_RetrieveMetaObject("VOXBaseUnknown", VOXTypeImplementation, nullptr, "VOXBaseUnknown", "vox_host",
-                                  static_cast<int>(sizeof(VOXBaseUnknown)));
+  static VOXMetaClass* const meta = VOXComponentRuntime::Describe("VOXBaseUnknown", VOXTypeImplementation, nullptr,
+                                                                  "VOXBaseUnknown", "vox_host", sizeof(VOXBaseUnknown));
   return meta;
 }
 

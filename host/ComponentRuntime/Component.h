@@ -43,7 +43,11 @@ private:
   static VOXBaseUnknown* MakeFace(VOXBaseUnknown* iRoot, int iPlace);
   static unsigned long GiveBack(VOXBaseUnknown* iRoot);
   static void Close(VOXBaseUnknown* iRoot);
-  static VOXMetaClass* NewMetaClass(struct VOXMetaClassData* iData);
+
+  //! The description of a class, registered when it is new. Unlike fct_RetrieveMetaObject it has no fault point: a
+  //! component always has a description. Borrowed.
+  static VOXMetaClass* Describe(const char* iClassName, ENUMTypeOfClass iKind, VOXMetaClass* iBase,
+                                const char* iLateType, const char* iLibrary, int iObjectSize);
 };
 
 namespace voxhost

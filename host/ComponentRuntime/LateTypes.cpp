@@ -94,9 +94,9 @@ bool LateType::IsOrDerivesFrom(const char* iName) const
 VOXMetaClass* LateType::Meta() const
 {
   if (_Meta == nullptr)
-    _Meta = fct_RetrieveMetaObject(_Name.c_str(), VOXTypeImplementation,
-                                   _Base != nullptr ? _Base->Meta() : VOXBaseUnknown::MetaObject(), _Name.c_str(),
-                                   "vox_host", 0);
+    _Meta = VOXComponentRuntime::Describe(_Name.c_str(), VOXTypeImplementation,
+                                          _Base != nullptr ? _Base->Meta() : VOXBaseUnknown::MetaObject(),
+                                          _Name.c_str(), "vox_host", 0);
   return _Meta;
 }
 

@@ -55,18 +55,10 @@ int VOXMetaClass::IsAKindOf(const char* iName) const
   return 0;
 }
 
-VOXMetaClass* VOXComponentRuntime::NewMetaClass(VOXMetaClassData* iData)
+VOXMetaClass* VOXComponentRuntime::Describe(const char* iClassName, ENUMTypeOfClass iKind, VOXMetaClass* iBase,
+                                            const char* iLateType, const char* iLibrary, int iObjectSize)
 {
-  return new VOXMetaClass(iData);
-}
-
-VOXMetaClass* fct_RetrieveMetaObject(const char* iClassName, ENUMTypeOfClass iKind, VOXMetaClass* iBase,
-                                     const char* iLateType, const char* iLibrary, int iObjectSize)
-{
-  if (iClassName == nullptr || voxhost::Faults::Enter("fct_RetrieveMetaObject"))
-    return nullptr;
   Registry& registry = AllClasses();
-  ++registry.calls;
   const auto known = registry.classes.find(std::string_view(iClassName));
   if (known != registry.classes.end())
     return known->second.first;
@@ -75,9 +67,18 @@ VOXMetaClass* fct_RetrieveMetaObject(const char* iClassName, ENUMTypeOfClass iKi
                             iLateType != nullptr ? iLateType : "", iLibrary != nullptr ? iLibrary : "", iObjectSize},
                            VOXGuidOfName(iClassName),
                            iBase};
-  VOXMetaClass* const meta = VOXComponentRuntime::NewMetaClass(data);
+  VOXMetaClass* const meta = new VOXMetaClass(data);
   registry.classes.emplace(iClassName, std::make_pair(meta, data));
   return meta;
+}
+
+VOXMetaClass* fct_RetrieveMetaObject(const char* iClassName, ENUMTypeOfClass iKind, VOXMetaClass* iBase,
+                                     const char* iLateType, const char* iLibrary, int iObjectSize)
+{
+  if (iClassName == nullptr || voxhost::Faults::Enter("fct_RetrieveMetaObject"))
+    return nullptr;
+  ++AllClasses().calls;
+  return VOXComponentRuntime::Describe(iClassName, iKind, iBase, iLateType, iLibrary, iObjectSize);
 }
 
 namespace voxhost

@@ -250,4 +250,17 @@ TEST(MetaClasses, AreRegisteredOnceAndKeepWhatTheyWereTold)
   EXPECT_EQ(voxhost::FindMetaClass("NoSuchClass"), nullptr);
 }
 
+TEST(MetaClasses, AComponentHasADescriptionWhenNoClassCanBeRegistered)
+{
+  ASSERT_EQ(VOXDeclareLateType("RuntimeDescribed", nullptr), S_OK);
+  VOXBaseUnknown* const component = voxhost::NewComponent("RuntimeDescribed");
+  ASSERT_NE(component, nullptr);
+  voxhost::Faults::FailOperation("fct_RetrieveMetaObject", 1, true);
+  EXPECT_STREQ(component->IsA(), "RuntimeDescribed");
+  EXPECT_EQ(component->IsAKindOf("VOXBaseUnknown"), 1);
+  EXPECT_NE(VOXBaseUnknown::MetaObject(), nullptr);
+  voxhost::Faults::Disarm();
+  component->Release();
+}
+
 } // namespace
