@@ -63,7 +63,7 @@ private:
 VOX_HOST_API HRESULT ConvertAnyToVariant(const any& iValue, VARIANT& oVariant);
 
 //! Makes an array that holds copies of iCount values. @return owned by the caller (DestroySafeArray); null when there is
-//! no memory or iValues is null.
+//! no memory, iValues is null or iCount negative.
 VOX_HOST_API SAFEARRAY* BuildFromVariantArray(const VARIANT* iValues, int iCount);
 
 //! Destroys an array and its values; null is allowed.

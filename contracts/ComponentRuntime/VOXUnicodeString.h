@@ -31,10 +31,10 @@ public:
   //! Finds a text in this one.
   //! @param iSub what to find. @param iFrom position where the search begins.
   //! @param iMode 1: forward, the first occurrence at or after iFrom; 0: backward, the last one at or before iFrom.
-  //! @return position of the occurrence; -1 when there is none, or when iSub is empty.
+  //! @return position of the occurrence; -1 when there is none, or when iSub is empty or iFrom negative.
   int SearchSubString(const VOXUnicodeString& iSub, int iFrom = 0, int iMode = 1) const;
 
-  //! Shortens the text to its first iLength bytes, or fills it up with blanks.
+  //! Shortens the text to its first iLength bytes, or fills it up with blanks; a negative length is 0.
   void Resize(int iLength);
 
   //! The text in 8-bit form, zero-terminated, never null. Borrowed: valid until this object changes or dies.

@@ -54,7 +54,8 @@ public:
   //! null array with a count, or no memory: the entities are then as they were.
   virtual HRESULT SetEntities(int iCount, VOXSamModelDataRoot* const* iObjects, const int* iIndices);
 
-  //! 10. Whether nothing changed under the collector's context since it was filled. @return 1 or 0.
+  //! 10. Whether nothing changed under the collector's context since it was filled. @return 1 or 0; either one without a
+  //! context, which the adaptors never ask for.
   virtual unsigned char IsUpToDate() const;
 
   //! 11. Whether the collector can be stored with its document. @return 1 or 0.

@@ -145,6 +145,7 @@ TEST_F(RuntimeOnAnyHost, TextsAreValuesAndCanBeSearched)
   EXPECT_EQ(text.SearchSubString("Mass", 10, 0), 5);
   EXPECT_EQ(text.SearchSubString("mass", 0, 1), -1);
   EXPECT_EQ(text.SearchSubString("", 0, 1), -1);
+  EXPECT_EQ(text.SearchSubString("Mass", -1, 1), -1);
   text.Resize(4);
   EXPECT_TRUE(text == "Mass");
   EXPECT_STREQ(copy.ConvertToChar(), "Mass.Mass.2");
