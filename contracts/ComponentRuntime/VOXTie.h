@@ -47,6 +47,8 @@ private:
 template <class Interface, class Tie>
 HRESULT VOXTieLateType(const char* iLateType)
 {
+  static_assert(std::is_base_of_v<Interface, Tie>,
+                "declare the tie over the adaptor, from the template that stands beside the interface");
   return VOXDeclareExtension(iLateType, Interface::ClassId(), Interface::ClassName(),
                              []() -> VOXBaseUnknown*
                              {

@@ -3,6 +3,8 @@
 
 #include "ComponentRuntime/VOXBaseUnknown.h"
 
+#include <type_traits>
+
 //! Makes one extension object, born with one reference that the component takes over. Null when there is no memory.
 //! The runtime attaches it with the object's own SetImpl, which a tie overrides, before anybody gets to see it.
 using VOXExtensionFactory = VOXBaseUnknown* (*)();
@@ -26,6 +28,8 @@ VOX_HOST_API HRESULT VOXDeclareExtension(const char* iLateType, const IID& iInte
 template <class Interface, class Adaptor>
 HRESULT VOXExtendLateType(const char* iLateType)
 {
+  static_assert(std::is_base_of_v<Interface, Adaptor>,
+                "the adaptor is reached through a tie: declare the tie, with VOXTieLateType");
   return VOXDeclareExtension(iLateType, Interface::ClassId(), Interface::ClassName(),
                              []() -> VOXBaseUnknown* { return static_cast<Interface*>(new Adaptor); });
 }
