@@ -63,7 +63,7 @@ TEST(ConnectionsCommand, EachSideIsDesignedByTheMeshPartOfItsDesigner)
 
 TEST(ConnectionsCommand, ARigidBodyGoesFromItsReferenceNodeToItsSet)
 {
-  const json body = ConnectionOf("RIGIDBODY");
+  const json body = ConnectionOf("RIGID BODY");
   EXPECT_EQ(body["sides"][0]["designer"], "node 99");
   EXPECT_EQ(NamesOf(body["sides"][0]["supports"]), Names{"Mesh"});
   EXPECT_EQ(NamesOf(body["sides"][1]["supports"]), Names{"TIP"});

@@ -137,6 +137,45 @@ TEST(InpLines, AnUnknownCardIsReportedWithItsLineAndCounted)
   EXPECT_EQ(Members(bench.model.FindNodeSet("A")), (std::vector<int>{1}));
 }
 
+TEST(InpLines, FindingsShowKeywordsWithSingleBlanks)
+{
+  InpBench bench;
+  bench.Read(NodesUpTo(1) + "* no  such\tcard , A=1\n*ENDSTEP\n*solid  section, NOSUCH\n");
+
+  EXPECT_THAT(bench.Findings(),
+              testing::IsSupersetOf({"3 W *NO SUCH CARD the card is not understood; it is passed over with its 0 data "
+                                     "lines.",
+                                     "5 E *SOLID SECTION the section names no element set (ELSET=)."}));
+  EXPECT_EQ(bench.model.diagnostics.list.at(1).card, "*END STEP");
+  EXPECT_EQ(bench.model.diagnostics.unknownCards.at("*NO SUCH CARD"), 1);
+}
+
+TEST(InpLines, FindingsAreShortWhateverTheDeckSays)
+{
+  InpBench bench;
+  const std::string endless(1000000, 'X');
+  std::string words;
+  for (int word = 0; word < 1000; ++word)
+    words += "A ";
+  bench.Read(NodesUpTo(1) + "*" + endless + "\n*NSET, NSET=A, " + endless + "\n1\n*ELASTIC, TYPE=\"" + words +
+             "\"\n*NODE\n\"" + words + "\", 0., 0., 0.\n");
+
+  const std::string first(80, 'X');
+  EXPECT_EQ(bench.Findings().at(0),
+            "3 W *" + first + "... the card is not understood; it is passed over with its 0 data lines.");
+  EXPECT_EQ(bench.Findings().at(1), "4 W *NSET the parameter " + first + "... has no effect.");
+  for (const std::string& finding : bench.Findings())
+    EXPECT_LT(finding.size(), 600u);
+}
+
+TEST(InpLines, FindingsCutNoCharacterThrough)
+{
+  InpBench bench;
+  bench.Read(NodesUpTo(1) + "*NSET, NSET=A, " + std::string(79, 'X') + "\xC3\xA9X\n1\n");
+
+  EXPECT_EQ(bench.Findings().at(0), "3 W *NSET the parameter " + std::string(79, 'X') + "... has no effect.");
+}
+
 TEST(InpLines, AParameterWithoutEffectIsReported)
 {
   InpBench bench;

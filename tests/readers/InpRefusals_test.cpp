@@ -124,6 +124,23 @@ TEST(InpRefusals, CompressedDataCutOffIsRefused)
   EXPECT_THAT(bench.outcome.reason, testing::Not(HasSubstr("fd:")));
 }
 
+TEST(InpRefusals, MoreElementTypesThanTheTableHoldsAreRefused)
+{
+  constexpr int kMost = 65536;
+  std::string deck = NodesUpTo(1);
+  for (int type = 1; type <= kMost; ++type)
+    deck += "*ELEMENT, TYPE=T" + std::to_string(type) + "\n";
+  InpBench bench;
+  bench.Read(deck);
+  EXPECT_TRUE(bench.outcome.ok);
+  EXPECT_EQ(bench.model.elementTypes.size(), static_cast<std::size_t>(kMost));
+
+  bench.Read(deck + "*ELEMENT, TYPE=T1\n*ELEMENT, TYPE=T0\n");
+  EXPECT_FALSE(bench.outcome.ok);
+  EXPECT_EQ(bench.outcome.line, kMost + 4);
+  EXPECT_THAT(bench.outcome.reason, HasSubstr("more than 65536 types of elements"));
+}
+
 TEST(InpRefusals, ARefusalNamesFileLineCardReasonAndAdvice)
 {
   InpBench bench;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/build/Coverage.h"
+#include "voxbench/readers/inp/InpReader.h"
 
 #include <map>
 
@@ -22,7 +23,7 @@ std::vector<UncoveredRecords> RecordsWithoutFeature(const NeutralModel& iRecords
   for (const CardRecord& card : iRecords.otherCards)
     ++others[card.keyword];
   for (const auto& [keyword, count] : others)
-    add("*" + keyword + " cards", count);
+    add("*" + ShownKeyword(keyword) + " cards", count);
   return uncovered;
 }
 

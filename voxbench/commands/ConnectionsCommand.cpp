@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/ConnectionsCommand.h"
 #include "AnalysisInterfaces/VOXISamConnectionDesign.h"
+#include "voxbench/readers/inp/InpReader.h"
 #include "voxbench/report/ConnectionsReport.h"
 
 #include <CLI/CLI.hpp>
@@ -38,7 +39,7 @@ ConnectionRow RowOf(voxhost::Feature& iConnection)
 {
   ConnectionRow row;
   row.name = LoadedModel::DisplayName(iConnection);
-  row.keyword = static_cast<const char*>(iConnection.Text("Keyword"));
+  row.keyword = ShownKeyword(static_cast<const char*>(iConnection.Text("Keyword")));
   row.sides[0].designer = DesignerOf(iConnection, "SAMConnectionDesigner1");
   row.sides[1].designer = DesignerOf(iConnection, "SAMConnectionDesigner2");
 

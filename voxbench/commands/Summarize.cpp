@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "voxbench/commands/Summarize.h"
 #include "voxbench/build/Coverage.h"
+#include "voxbench/readers/inp/InpReader.h"
 
 #include <algorithm>
 #include <cmath>
@@ -67,7 +68,7 @@ void SumUpProperties(const NeutralModel& iRecords, InfoResult& oResult)
   {
     InfoResult::MaterialRow row{material.name, {}};
     for (const CardRecord& property : material.properties)
-      row.properties.push_back(property.keyword);
+      row.properties.push_back(ShownKeyword(property.keyword));
     oResult.materials.push_back(std::move(row));
   }
   for (const Section& section : iRecords.sections)
@@ -87,7 +88,7 @@ std::vector<InfoResult::AppliedRow> ByKeyword(const std::vector<AppliedCard>& iC
   {
     const auto [found, isNew] = places.try_emplace(card.keyword, rows.size());
     if (isNew)
-      rows.push_back({card.keyword, 0, 0});
+      rows.push_back({ShownKeyword(card.keyword), 0, 0});
     ++rows[found->second].cards;
     rows[found->second].rows += static_cast<std::int64_t>(card.rows.size());
   }
@@ -97,8 +98,8 @@ std::vector<InfoResult::AppliedRow> ByKeyword(const std::vector<AppliedCard>& iC
 void SumUpSteps(const NeutralModel& iRecords, InfoResult& oResult)
 {
   for (const Step& step : iRecords.steps)
-    oResult.steps.push_back({static_cast<int>(oResult.steps.size()) + 1, step.procedure.keyword, step.perturbation,
-                             step.nonlinearGeometry, 0, 0, 0});
+    oResult.steps.push_back({static_cast<int>(oResult.steps.size()) + 1, ShownKeyword(step.procedure.keyword),
+                             step.perturbation, step.nonlinearGeometry, 0, 0, 0});
   const auto inStep = [&oResult](std::int32_t iStep) -> InfoResult::StepRow*
   {
     const bool exists = iStep >= 1 && static_cast<std::size_t>(iStep) <= oResult.steps.size();

@@ -61,6 +61,16 @@ std::string Unquoted(std::string_view iText)
   return std::string(iText);
 }
 
+// The first characters of a text, none of UTF-8 cut through; "..." stands for the others.
+std::string Beginning(std::string_view iText, std::size_t iMost)
+{
+  if (iText.size() <= iMost)
+    return std::string(iText);
+  while (iMost > 0 && (static_cast<unsigned char>(iText[iMost]) & 0xC0) == 0x80)
+    --iMost;
+  return std::string(iText.substr(0, iMost)) + "...";
+}
+
 Parameter ParameterOf(std::string_view iPart)
 {
   const std::size_t equals = iPart.find('=');
@@ -121,6 +131,35 @@ void AddKeywordLine(std::string_view iLine, CardRecord& ioCard)
                   ioCard.parameters.push_back(ParameterOf(iPart));
                 atKeyword = false;
               });
+}
+
+std::string KeywordAsWritten(std::string_view iLine)
+{
+  iLine = Trim(iLine);
+  iLine = iLine.substr(1, iLine.find(',') - 1);
+  std::string keyword;
+  for (const char character : Trim(iLine))
+    if (!IsBlank(character))
+      keyword += UpperOf(character);
+    else if (!keyword.empty() && keyword.back() != ' ')
+      keyword += ' ';
+  return keyword;
+}
+
+std::string Readable(std::string_view iText)
+{
+  constexpr std::size_t kLongestWord = 80;
+  constexpr std::size_t kLongestText = 500;
+  std::string readable;
+  for (std::size_t start = 0; start < iText.size() && readable.size() <= kLongestText;)
+  {
+    const std::size_t end = std::min(iText.find(' ', start), iText.size());
+    readable += Beginning(iText.substr(start, end - start), kLongestWord);
+    if (end < iText.size())
+      readable += ' ';
+    start = end + 1;
+  }
+  return Beginning(readable, kLongestText);
 }
 
 bool ContinuesKeyword(std::string_view iLine)

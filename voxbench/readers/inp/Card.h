@@ -28,6 +28,12 @@ bool IsKeyword(std::string_view iLine);
 //! Reads a keyword line, or the continuation of one, into a record: the keyword (of a first line) and the parameters.
 void AddKeywordLine(std::string_view iLine, CardRecord& ioCard);
 
+//! The keyword of a keyword line as it is written there, in upper case, with single blanks; without the star.
+std::string KeywordAsWritten(std::string_view iLine);
+
+//! A sentence with words of the deck in it, for people: words beyond 80 characters, and texts beyond 500, end in "...".
+std::string Readable(std::string_view iText);
+
 //! True if the line can only go on a keyword line that ended with a comma: a parameter with a value, or flags alone.
 bool ContinuesKeyword(std::string_view iLine);
 

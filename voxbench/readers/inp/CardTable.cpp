@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Handlers.h"
+#include "InpReader.h"
 
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace voxbench::inp
 {
@@ -15,132 +17,143 @@ struct Rule
   std::initializer_list<std::string_view> keywords;
 };
 
-// Every keyword of the dialect, without star and blanks.
+// Every keyword of the dialect, without star.
 const Rule kRules[] = {
     {ReadNodes, {"NODE"}},
     {ReadElements, {"ELEMENT"}},
-    {ReadUserElement, {"USERELEMENT"}},
+    {ReadUserElement, {"USER ELEMENT"}},
     {ReadNodeSet, {"NSET"}},
     {ReadElementSet, {"ELSET"}},
     {ReadSurface, {"SURFACE"}},
-    {ReadMaterial, {"MATERIAL", "CHANGEMATERIAL"}},
-    {ReadInteraction, {"SURFACEINTERACTION"}},
-    {ReadInteractionChange, {"CHANGEFRICTION", "CHANGESURFACEBEHAVIOR"}},
+    {ReadMaterial, {"MATERIAL", "CHANGE MATERIAL"}},
+    {ReadInteraction, {"SURFACE INTERACTION"}},
+    {ReadInteractionChange, {"CHANGE FRICTION", "CHANGE SURFACE BEHAVIOR"}},
     {ReadProperty,
      {"ELASTIC",
       "DENSITY",
       "EXPANSION",
       "PLASTIC",
       "CREEP",
-      "CYCLICHARDENING",
+      "CYCLIC HARDENING",
       "HYPERELASTIC",
       "HYPERFOAM",
       "CONDUCTIVITY",
-      "SPECIFICHEAT",
-      "SPECIFICGASCONSTANT",
-      "FLUIDCONSTANTS",
+      "SPECIFIC HEAT",
+      "SPECIFIC GAS CONSTANT",
+      "FLUID CONSTANTS",
       "DEPVAR",
-      "USERMATERIAL",
+      "USER MATERIAL",
       "DAMPING",
-      "DEFORMATIONPLASTICITY",
-      "ELECTRICALCONDUCTIVITY",
-      "MAGNETICPERMEABILITY",
-      "MOHRCOULOMB",
-      "MOHRCOULOMBHARDENING",
-      "CHANGEPLASTIC",
+      "DEFORMATION PLASTICITY",
+      "ELECTRICAL CONDUCTIVITY",
+      "MAGNETIC PERMEABILITY",
+      "MOHR COULOMB",
+      "MOHR COULOMB HARDENING",
+      "CHANGE PLASTIC",
       "POROSITY",
-      "SURFACEBEHAVIOR",
+      "SURFACE BEHAVIOR",
       "FRICTION",
-      "GAPCONDUCTANCE",
-      "GAPHEATGENERATION",
-      "CONTACTDAMPING"}},
+      "GAP CONDUCTANCE",
+      "GAP HEAT GENERATION",
+      "CONTACT DAMPING"}},
     {ReadSection,
-     {"SOLIDSECTION", "SHELLSECTION", "MEMBRANESECTION", "BEAMSECTION", "BEAMGENERALSECTION", "FLUIDSECTION", "SPRING",
-      "DASHPOT", "MASS", "GAP", "USERSECTION"}},
+     {"SOLID SECTION", "SHELL SECTION", "MEMBRANE SECTION", "BEAM SECTION", "BEAM GENERAL SECTION", "FLUID SECTION",
+      "SPRING", "DASHPOT", "MASS", "GAP", "USER SECTION"}},
     {ReadAmplitude, {"AMPLITUDE"}},
     {ReadOrientation, {"ORIENTATION"}},
     {ReadTransform, {"TRANSFORM"}},
-    {ReadLoad, {"CLOAD", "DLOAD", "DSLOAD", "CFLUX", "DFLUX", "FILM", "RADIATE", "TEMPERATURE", "MASSFLOW"}},
+    {ReadLoad, {"CLOAD", "DLOAD", "DSLOAD", "CFLUX", "DFLUX", "FILM", "RADIATE", "TEMPERATURE", "MASS FLOW"}},
     {ReadRestraint, {"BOUNDARY", "BOUNDARYF"}},
-    {ReadInitialConditions, {"INITIALCONDITIONS"}},
-    {ReadNodalThickness, {"NODALTHICKNESS"}},
+    {ReadInitialConditions, {"INITIAL CONDITIONS"}},
+    {ReadNodalThickness, {"NODAL THICKNESS"}},
     {ReadEquation, {"EQUATION", "EQUATIONF"}},
-    {ReadMultiPointConstraint, {"MPC", "NETWORKMPC"}},
+    {ReadMultiPointConstraint, {"MPC", "NETWORK MPC"}},
     {ReadConnection,
-     {"TIE", "CONTACTPAIR", "COUPLING", "DISTRIBUTINGCOUPLING", "RIGIDBODY", "PRE-TENSIONSECTION",
-      "CYCLICSYMMETRYMODEL", "CLEARANCE"}},
+     {"TIE", "CONTACT PAIR", "COUPLING", "DISTRIBUTING COUPLING", "RIGID BODY", "PRE-TENSION SECTION",
+      "CYCLIC SYMMETRY MODEL", "CLEARANCE"}},
     {ReadCouplingBehavior, {"KINEMATIC", "DISTRIBUTING"}},
     {ReadHeading, {"HEADING"}},
     {ReadStep, {"STEP"}},
-    {ReadEndStep, {"ENDSTEP"}},
+    {ReadEndStep, {"END STEP"}},
     {ReadProcedure,
      {"STATIC",
       "FREQUENCY",
-      "COMPLEXFREQUENCY",
+      "COMPLEX FREQUENCY",
       "BUCKLE",
       "DYNAMIC",
-      "MODALDYNAMIC",
-      "STEADYSTATEDYNAMICS",
-      "HEATTRANSFER",
-      "COUPLEDTEMPERATURE-DISPLACEMENT",
-      "UNCOUPLEDTEMPERATURE-DISPLACEMENT",
+      "MODAL DYNAMIC",
+      "STEADY STATE DYNAMICS",
+      "HEAT TRANSFER",
+      "COUPLED TEMPERATURE-DISPLACEMENT",
+      "UNCOUPLED TEMPERATURE-DISPLACEMENT",
       "VISCO",
       "CFD",
       "ELECTROMAGNETICS",
       "SENSITIVITY",
-      "SUBSTRUCTUREGENERATE",
+      "SUBSTRUCTURE GENERATE",
       "GREEN",
-      "NOANALYSIS",
-      "CRACKPROPAGATION",
-      "FEASIBLEDIRECTION",
-      "ROBUSTDESIGN",
-      "REFINEMESH"}},
+      "NO ANALYSIS",
+      "CRACK PROPAGATION",
+      "FEASIBLE DIRECTION",
+      "ROBUST DESIGN",
+      "REFINE MESH"}},
     {ReadOutputRequest,
-     {"NODEPRINT", "ELPRINT", "FACEPRINT", "SECTIONPRINT", "CONTACTPRINT", "NODEFILE", "ELFILE", "CONTACTFILE",
-      "NODEOUTPUT", "ELEMENTOUTPUT", "CONTACTOUTPUT"}},
+     {"NODE PRINT", "EL PRINT", "FACE PRINT", "SECTION PRINT", "CONTACT PRINT", "NODE FILE", "EL FILE", "CONTACT FILE",
+      "NODE OUTPUT", "ELEMENT OUTPUT", "CONTACT OUTPUT"}},
     {ReadOtherCard,
-     {"BASEMOTION",
-      "CHANGECONTACTTYPE",
-      "CHANGESOLIDSECTION",
+     {"BASE MOTION",
+      "CHANGE CONTACT TYPE",
+      "CHANGE SOLID SECTION",
       "CONSTRAINT",
       "CONTROLS",
-      "CORRELATIONLENGTH",
-      "DESIGNRESPONSE",
-      "DESIGNVARIABLES",
+      "CORRELATION LENGTH",
+      "DESIGN RESPONSE",
+      "DESIGN VARIABLES",
       "DISTRIBUTION",
       "FILTER",
-      "GEOMETRICCONSTRAINT",
-      "GEOMETRICTOLERANCES",
+      "GEOMETRIC CONSTRAINT",
+      "GEOMETRIC TOLERANCES",
       "HCF",
-      "INITIALSTRAININCREASE",
-      "MATRIXASSEMBLE",
-      "MODALDAMPING",
-      "MODELCHANGE",
+      "INITIAL STRAIN INCREASE",
+      "MATRIX ASSEMBLE",
+      "MODAL DAMPING",
+      "MODEL CHANGE",
       "NORMAL",
       "OBJECTIVE",
       "OUTPUT",
-      "PHYSICALCONSTANTS",
-      "RANDOMFIELD",
+      "PHYSICAL CONSTANTS",
+      "RANDOM FIELD",
       "RESTART",
-      "RETAINEDNODALDOFS",
-      "SELECTCYCLICSYMMETRYMODES",
+      "RETAINED NODAL DOFS",
+      "SELECT CYCLIC SYMMETRY MODES",
       "SUBMODEL",
-      "SUBSTRUCTUREMATRIXOUTPUT",
-      "TIMEPOINTS",
+      "SUBSTRUCTURE MATRIX OUTPUT",
+      "TIME POINTS",
       "TRANSFORMF",
-      "VALUESATINFINITY",
+      "VALUES AT INFINITY",
       "VIEWFACTOR"}},
     {RefuseAssembly, {"PART", "ASSEMBLY", "INSTANCE"}},
 };
 
-const std::unordered_map<std::string_view, Handler>& Table()
+struct Entry
+{
+  Handler handler;
+  std::string_view name; //!< with its blanks
+};
+
+//! By keywords without blanks.
+const std::unordered_map<std::string, Entry>& Table()
 {
   static const auto table = []
   {
-    std::unordered_map<std::string_view, Handler> made;
+    std::unordered_map<std::string, Entry> made;
     for (const Rule& rule : kRules)
-      for (const std::string_view keyword : rule.keywords)
-        made.emplace(keyword, rule.handler);
+      for (const std::string_view name : rule.keywords)
+      {
+        std::string keyword(name);
+        std::erase(keyword, ' ');
+        made.emplace(std::move(keyword), Entry{rule.handler, name});
+      }
     return made;
   }();
   return table;
@@ -150,7 +163,7 @@ const std::unordered_map<std::string_view, Handler>& Table()
 Handler FindHandler(const std::string& iKeyword)
 {
   const auto found = Table().find(iKeyword);
-  return found == Table().end() ? nullptr : found->second;
+  return found == Table().end() ? nullptr : found->second.handler;
 }
 
 std::string CanonicalKeyword(const std::string& iKeyword)
@@ -165,3 +178,14 @@ std::string CanonicalKeyword(const std::string& iKeyword)
 }
 
 } // namespace voxbench::inp
+
+namespace voxbench
+{
+
+std::string ShownKeyword(const std::string& iKeyword)
+{
+  const auto found = inp::Table().find(iKeyword);
+  return found == inp::Table().end() ? iKeyword : std::string(found->second.name);
+}
+
+} // namespace voxbench

@@ -59,7 +59,7 @@ void ReadUnknownCard(Reading& ioReading, const CardRecord& iCard)
   std::int64_t count = 0;
   for (; ioReading.Peek() == LineKind::Data; ++count)
     ioReading.Source().TakeLine();
-  ++ioReading.model.diagnostics.unknownCards["*" + iCard.keyword];
+  ++ioReading.model.diagnostics.unknownCards[ioReading.cardInForce];
   ioReading.Report(Severity::Warning, iCard.where,
                    fmt::format("the card is not understood; it is passed over with its {} data line{}.", count,
                                count == 1 ? "" : "s"));

@@ -4,6 +4,7 @@
 #include "../ReadOutcome.h"
 
 #include <filesystem>
+#include <string>
 
 namespace voxbench
 {
@@ -18,5 +19,8 @@ namespace voxbench
 //! - A node or element that is defined again takes its last definition.
 //! @param oModel overwritten whole.
 ReadOutcome ReadInp(const std::filesystem::path& iPath, const ReadOptions& iOptions, NeutralModel& oModel);
+
+//! A keyword of a record (ENDSTEP) with its blanks (END STEP), as people know it. Others as they are.
+std::string ShownKeyword(const std::string& iKeyword);
 
 } // namespace voxbench

@@ -69,14 +69,19 @@ void JoinSet(SetBuilders& ioSets, const std::string& iName, Where iWhere, const 
   set.ids.Append(iIds.data() + iFirst, iIds.size() - iFirst);
 }
 
+// The place of the card's type in the table of types. Refuses the deck when the table is full.
 std::uint16_t TypeIndex(Reading& ioReading, const CardRecord& iCard)
 {
   std::vector<ElementType>& types = ioReading.model.elementTypes;
   const std::string& name = iCard.Get("TYPE");
-  const auto found =
-      std::find_if(types.begin(), types.end(), [&](const ElementType& iOne) { return iOne.name == name; });
-  const auto index = static_cast<std::size_t>(found - types.begin());
-  if (found == types.end())
+  const auto [found, isNew] = ioReading.elementTypePlaces.try_emplace(name, types.size());
+  const std::size_t index = found->second;
+  if (index > std::numeric_limits<std::uint16_t>::max())
+  {
+    ioReading.Refuse(iCard.where, "the deck has more than 65536 types of elements.", "Correct the TYPE of its cards.");
+    return 0;
+  }
+  if (isNew)
   {
     ElementType type = LookUpElementType(name);
     if (const auto user = ioReading.userElementNodes.find(name); user != ioReading.userElementNodes.end())
@@ -91,7 +96,7 @@ std::uint16_t TypeIndex(Reading& ioReading, const CardRecord& iCard)
                      name.empty()
                          ? std::string("the card has no TYPE; its elements keep their nodes only.")
                          : fmt::format("the element type {} is not known; its elements keep their nodes only.", name));
-  return static_cast<std::uint16_t>(std::min<std::size_t>(index, 0xFFFF));
+  return static_cast<std::uint16_t>(index);
 }
 
 void AddElement(Reading& ioReading, std::uint16_t iType, std::int32_t iId, const std::vector<std::int32_t>& iNodes)
@@ -195,6 +200,8 @@ void ReadElements(Reading& ioReading, CardRecord& ioCard)
   ReportUnusedParameters(ioReading, ioCard, {"TYPE", "ELSET"});
   ElementTable& elements = ioReading.model.elements;
   const std::uint16_t type = TypeIndex(ioReading, ioCard);
+  if (ioReading.Refused())
+    return;
   const std::int32_t nodeCount = ioReading.model.elementTypes[type].nodeCount;
   const std::size_t first = elements.size();
   elements.sources.push_back({static_cast<std::int32_t>(first), ioCard.where});

@@ -2,6 +2,7 @@
 #include "Reading.h"
 
 #include "../Numbers.h"
+#include "InpReader.h"
 
 #include <fmt/format.h>
 
@@ -170,7 +171,8 @@ bool Reading::TakeCard(CardRecord& oCard)
   std::string_view line = Trim(Source().TakeLine());
   bool continues = line.back() == ',';
   AddKeywordLine(line, oCard);
-  cardInForce = "*" + oCard.keyword;
+  const std::string shown = ShownKeyword(oCard.keyword);
+  cardInForce = "*" + (shown == oCard.keyword ? Readable(KeywordAsWritten(line)) : shown);
   while (continues && Peek() == LineKind::Data && ContinuesKeyword(PeekedLine()))
   {
     line = Trim(Source().TakeLine());
@@ -216,9 +218,9 @@ void Reading::Refuse(Where iWhere, std::string iReason, std::string iAdvice)
              std::move(iAdvice)};
 }
 
-void Reading::Report(Severity iSeverity, Where iWhere, std::string iMessage)
+void Reading::Report(Severity iSeverity, Where iWhere, const std::string& iMessage)
 {
-  model.diagnostics.Add(iSeverity, iWhere, cardInForce, std::move(iMessage));
+  model.diagnostics.Add(iSeverity, iWhere, cardInForce, Readable(iMessage));
 }
 
 std::int32_t Reading::NameIndex(const std::string& iName)

@@ -62,7 +62,7 @@ public:
   bool Refused() const { return !outcome.ok; }
 
   //! Adds a finding about the card in force.
-  void Report(Severity iSeverity, Where iWhere, std::string iMessage);
+  void Report(Severity iSeverity, Where iWhere, const std::string& iMessage);
 
   //! The step in force, 0 outside of steps.
   std::int32_t StepNow() const { return inStep ? static_cast<std::int32_t>(model.steps.size()) : 0; }
@@ -75,7 +75,7 @@ public:
 
   NeutralModel& model;
   ReadOutcome outcome;
-  std::string cardInForce; //!< "*NODE" etc. for findings
+  std::string cardInForce; //!< "*NODE", "*END STEP" etc. for findings
   SetBuilders nodeSets;
   SetBuilders elementSets;
   SetBuilders nodeSurfaces;
@@ -85,6 +85,7 @@ public:
   using Places = std::unordered_map<std::string, std::size_t>; //!< by name
   Places materialPlaces;
   Places interactionPlaces;
+  Places elementTypePlaces;
   bool nodesAscend = true;    //!< ids so far strictly ascending
   bool elementsAscend = true; //!< ids so far strictly ascending
   bool inStep = false;
