@@ -88,6 +88,20 @@ TEST(OwnerCommand, WithoutAQuestionItIsAWrongUse)
   EXPECT_THAT(run.errors, HasSubstr("TAG"));
 }
 
+TEST(OwnerCommand, ANumberThatNoObjectCanHaveIsAWrongUse)
+{
+  for (const char* const option : {"TAG", "--node", "--element"})
+    for (const std::string number : {"99999999999", "2147483648", "abc", "1.5"})
+    {
+      std::vector<std::string> arguments{"owner", kDeck, option, number};
+      if (option[0] != '-')
+        arguments.erase(arguments.begin() + 2);
+      const auto run = voxtest::RunInProcess(arguments);
+      EXPECT_EQ(run.code, 2);
+      EXPECT_THAT(run.errors, HasSubstr(std::string(option) + ": " + number + " is no whole number up to 2147483647"));
+    }
+}
+
 TEST(OwnerCommand, WhatFollowsTheIdOfAnOptionIsATag)
 {
   const auto run = voxtest::RunInProcess({"owner", kDeck, "--node", "1", "2"});

@@ -156,6 +156,16 @@ TEST(Program, AFileThatIsNotThereIsUnreadable)
   }
 }
 
+TEST(Program, AFileWithoutANameIsAWrongUse)
+{
+  for (const std::string command : {"info", "tree", "upgrade", "results"})
+  {
+    const auto run = RunInProcess({command, ""});
+    EXPECT_EQ(run.code, 2) << command;
+    EXPECT_THAT(run.errors, HasSubstr("FILE: the name of a file is needed")) << command;
+  }
+}
+
 TEST(Program, AFolderIsUnreadable)
 {
   const auto run = RunBuiltProgram({"groups", std::filesystem::temp_directory_path().string()});

@@ -206,6 +206,28 @@ TEST(ResultsCommand, AnUnknownPositionOrGroupIsAFailure)
   EXPECT_THAT(run.errors, HasSubstr("has no group named NOWHERE"));
 }
 
+TEST(ResultsCommand, AGroupWhoseNodesTheFileDoesNotHaveTellsOfAnotherDeck)
+{
+  const std::string deck = voxtest::TemporaryFile(
+      "other.inp",
+      "*NODE, NSET=PARTLY\n1, 0., 0., 0.\n2, 1., 0., 0.\n901, 0., 0., 0.\n*NODE, NSET=NOWHERE\n902, 0., 0., "
+      "0.\n*ELEMENT, TYPE=MASS, ELSET=LUMP\n903, 1\n*NSET, NSET=HERE\n1\n");
+  const auto shown = [&deck](const std::string& iGroup) {
+    return RunInProcess({"results", kFile, "--deck", deck, "--type", "U", "--group", iGroup});
+  };
+  const std::string reason = " are not in " + kFile + ": " + deck + " may not be the deck that was solved";
+
+  const auto nowhere = shown("NOWHERE");
+  EXPECT_EQ(nowhere.code, 1);
+  EXPECT_EQ(nowhere.errors,
+            "voxbench results: 1 of 1 nodes of group NOWHERE" + reason + ", or no solid has these nodes\n");
+  const auto partly = shown("PARTLY");
+  EXPECT_EQ(partly.code, 0);
+  EXPECT_THAT(partly.errors, HasSubstr("1 of 3 nodes of group PARTLY" + reason));
+  EXPECT_THAT(shown("LUMP").errors, HasSubstr("1 of 1 elements of group LUMP" + reason + "\n"));
+  EXPECT_EQ(shown("HERE").errors, "");
+}
+
 TEST(ResultsCommand, WithoutADeckThereAreNoGroups)
 {
   EXPECT_EQ(Listing(ComplexFile())["deck"], nullptr);

@@ -116,7 +116,8 @@ TEST(ResultsReport, WithoutValuesOnlyExtremesAreShown)
 {
   EXPECT_THAT(Shown(ResultsReport::Json, Temperatures(), false), Not(HasSubstr("values\":")));
   EXPECT_THAT(Shown(ResultsReport::Csv, Temperatures(), false),
-              HasSubstr("type,version,value,position,group,component,minimum,node,x,y,z,maximum,node,x,y,z\n"));
+              HasSubstr("type,version,value,position,group,component,minimum,minimumNode,minimumX,minimumY,minimumZ,"
+                        "maximum,maximumNode,maximumX,maximumY,maximumZ\n"));
 }
 
 TEST(ResultsReport, FailuresAreTold)

@@ -127,8 +127,15 @@ TEST_F(Import, SaysWhyADocumentCannotBeMade)
   const auto run = RunBuiltProgram({"import", deck, "-o", "/no/such/folder/plate.voxdoc"});
   EXPECT_EQ(run.code, 4);
   EXPECT_THAT(run.errors, HasSubstr("/no/such/folder"));
-  EXPECT_THAT(run.errors, HasSubstr("No such file or directory"));
+  EXPECT_THAT(run.errors, HasSubstr("there is no folder /no/such/folder; make it first"));
   EXPECT_EQ(RunBuiltProgram({"import", deck, "-o", "/dev/null", "--force"}).code, 4);
+}
+
+TEST_F(Import, ADocumentWithoutANameIsAWrongUse)
+{
+  const auto run = RunBuiltProgram({"import", deck, "-o", ""});
+  EXPECT_EQ(run.code, 2);
+  EXPECT_THAT(run.errors, HasSubstr("--output: the name of a file is needed"));
 }
 
 TEST_F(Import, LeavesTheOldFileWhenTheDiskIsFull)

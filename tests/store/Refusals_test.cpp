@@ -73,7 +73,7 @@ TEST_F(RefusedFile, ADatabaseOfAnotherProgramIsNoDocument)
 TEST_F(RefusedFile, AFileOfOtherBytesIsNoDocument)
 {
   EXPECT_THAT(Refusal("*NODE\n1, 0., 0., 0.\n"), HasSubstr("it is no analysis document"));
-  EXPECT_THAT(Refusal(""), HasSubstr("it is no analysis document"));
+  EXPECT_THAT(Refusal(""), HasSubstr("the file is empty: restore it"));
 }
 
 TEST_F(RefusedFile, ADocumentIsKnownByItsContentWhateverItIsCalled)

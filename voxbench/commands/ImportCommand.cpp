@@ -43,7 +43,10 @@ void ImportCommand::DeclareOptions(CLI::App& ioParser)
 {
   _File.Declare(ioParser);
   ioParser.get_option("FILE")->description("The keyword deck (.inp, .inp.gz)");
-  ioParser.add_option("-o,--output", _Document, "The document to write (.voxdoc)")->required()->option_text("DOCUMENT");
+  ioParser.add_option("-o,--output", _Document, "The document to write (.voxdoc)")
+      ->required()
+      ->check(ReasonToRefuseName, "", "")
+      ->option_text("DOCUMENT");
   ioParser.add_flag("--force", _Force, "Replace DOCUMENT if it is there already");
   ioParser.add_option("--catalogue", _Release, "Write as the release of that number would have (voxbench upgrade)")
       ->check(CLI::Range(1, kNewestRelease))
@@ -90,6 +93,10 @@ std::string ImportCommand::ReasonToRefuse() const
     return fmt::format("{} is the deck itself: give the document another name", _Document);
   if (!_Force && std::filesystem::exists(_Document, unknown))
     return fmt::format("{} is there already: give another name, or --force to replace it", _Document);
+  const std::filesystem::path folder = std::filesystem::path(_Document).parent_path();
+  if (!folder.empty() && !std::filesystem::is_directory(folder, unknown))
+    return fmt::format("{} cannot be written: there is no folder {}; make it first, or give another name", _Document,
+                       folder.string());
   return "";
 }
 

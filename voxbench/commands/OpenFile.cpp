@@ -68,10 +68,16 @@ CommandDescription::Values ModelValues()
   return values;
 }
 
+std::string ReasonToRefuseName(const std::string& iName)
+{
+  return iName.empty() ? "the name of a file is needed, and this one is empty" : "";
+}
+
 void FileOptions::Declare(CLI::App& ioParser)
 {
   ioParser.add_option("FILE", file, "The model: a keyword deck (.inp, .inp.gz) or a document (.voxdoc)")
       ->required()
+      ->check(ReasonToRefuseName, "", "")
       ->option_text(" ");
   ioParser.add_flag("--json", json, "Print one JSON object instead of text");
 }

@@ -24,6 +24,9 @@ CommandDescription::Values DocumentValues(std::string iArgument = "FILE");
 //! FILE where it is a deck or a document.
 CommandDescription::Values ModelValues();
 
+//! A check of options that name a file. @return what is wrong with the name; "" when it can be one.
+std::string ReasonToRefuseName(const std::string& iName);
+
 //! What every subcommand on one file is told.
 struct FileOptions
 {

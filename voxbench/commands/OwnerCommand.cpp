@@ -2,6 +2,7 @@
 #include "voxbench/commands/OwnerCommand.h"
 #include "ExplicitModel/VOXAnalysisExplicitList.h"
 #include "voxbench/commands/Owner.h"
+#include "voxbench/readers/Numbers.h"
 #include "voxbench/report/OwnersReport.h"
 
 #include <CLI/CLI.hpp>
@@ -50,6 +51,13 @@ OwnerRow RowOf(const LoadedModel& iModel, std::string iAsked, const VOXAnalysisE
   return row;
 }
 
+//! Of an id or a tag.
+std::string ReasonToRefuseNumber(const std::string& iText)
+{
+  std::int32_t number = 0;
+  return ParseInteger(iText, number) ? "" : fmt::format("{} is no whole number up to 2147483647", iText);
+}
+
 } // namespace
 
 CommandDescription OwnerCommand::Describe() const
@@ -71,11 +79,13 @@ CommandDescription OwnerCommand::Describe() const
 void OwnerCommand::DeclareOptions(CLI::App& ioParser)
 {
   _File.Declare(ioParser);
-  ioParser.add_option("TAG", _Tags, "Tags of objects")->option_text(" ");
+  ioParser.add_option("TAG", _Tags, "Tags of objects")->check(ReasonToRefuseNumber, "", "")->option_text(" ");
   ioParser.add_option("--node", _Nodes, "Id of a node; may be given several times")
+      ->check(ReasonToRefuseNumber, "", "")
       ->allow_extra_args(false)
       ->option_text("ID");
   ioParser.add_option("--element", _Elements, "Id of an element; may be given several times")
+      ->check(ReasonToRefuseNumber, "", "")
       ->allow_extra_args(false)
       ->option_text("ID");
   ioParser.callback(

@@ -73,16 +73,49 @@ void AddGroup(const LoadedModel& iModel, voxhost::Feature& iGroup, const GroupKi
   ioGroups.push_back(std::move(group));
 }
 
+bool MatchesAny(const std::string& iName, const std::vector<std::string>& iPatterns)
+{
+  const auto matches = [&iName](const std::string& iPattern) { return MatchesPattern(iName, iPattern); };
+  return std::any_of(iPatterns.begin(), iPatterns.end(), matches);
+}
+
+template <class Table>
+std::int64_t CountMissing(const Table& iTable, const Column<std::int32_t>& iMembers)
+{
+  const auto isMissing = [&iTable](std::int32_t iId) { return iTable.Find(iId) < 0; };
+  return std::count_if(iMembers.begin(), iMembers.end(), isMissing);
+}
+
 } // namespace
+
+std::vector<GroupStrangers> StrangersOf(const NeutralModel& iDeck, const ResultRecords& iResults,
+                                        const std::vector<std::string>& iPatterns)
+{
+  std::vector<GroupStrangers> found;
+  const auto look = [&](const std::string& iName, const Column<std::int32_t>& iMembers, bool iOfNodes)
+  {
+    if (!MatchesAny(iName, iPatterns))
+      return;
+    const std::int64_t count =
+        iOfNodes ? CountMissing(iResults.nodes, iMembers) : CountMissing(iResults.elements, iMembers);
+    if (count > 0)
+      found.push_back({iName, iOfNodes, count, static_cast<std::int64_t>(iMembers.size())});
+  };
+  for (const NamedSet& set : iDeck.nodeSets)
+    look(set.name, set.members, true);
+  for (const NamedSet& set : iDeck.elementSets)
+    look(set.name, set.members, false);
+  for (const Surface& surface : iDeck.surfaces)
+    look(surface.name, surface.members, surface.kind == SurfaceKind::Node);
+  return found;
+}
 
 std::vector<GroupNodes> NodesOfGroups(const LoadedModel& iModel, const std::vector<std::string>& iPatterns)
 {
   std::vector<GroupNodes> groups;
   for (voxhost::Feature* const group : iModel.Groups())
   {
-    const std::string name = LoadedModel::DisplayName(*group);
-    const auto matches = [&name](const std::string& iPattern) { return MatchesPattern(name, iPattern); };
-    if (std::any_of(iPatterns.begin(), iPatterns.end(), matches))
+    if (MatchesAny(LoadedModel::DisplayName(*group), iPatterns))
       for (const GroupKind* const kind : kGroupKinds)
         AddGroup(iModel, *group, *kind, groups);
   }

@@ -95,6 +95,7 @@ void ResultsCommand::DeclareOptions(CLI::App& ioParser)
 {
   ioParser.add_option("FILE", _File, "Results of the CalculiX solver (.frd), plain or compressed (.frd.gz)")
       ->required()
+      ->check(ReasonToRefuseName, "", "")
       ->option_text(" ");
   ioParser.add_option("--type", _Type, "Show values of that type, such as STRESS; its label in a deck (S) will do")
       ->option_text("TYPE");
@@ -108,6 +109,7 @@ void ResultsCommand::DeclareOptions(CLI::App& ioParser)
       ->allow_extra_args(false)
       ->option_text("NAME");
   ioParser.add_option("--deck", _Deck, "The deck that was solved; by default the .inp of the same name beside FILE")
+      ->check(ReasonToRefuseName, "", "")
       ->option_text("DECK");
   ioParser.add_flag("--extremes", _ExtremesOnly, "Only minimum and maximum, no table of values");
   ioParser.add_flag("--delete", _Delete, "Delete in the end what was collected; FILE is never written");
@@ -164,6 +166,8 @@ int ResultsCommand::Open(Console& ioConsole, LoadedResults& oResults)
   NeutralModel deck;
   if (const int code = OpenDeck(ioConsole, deck); code != kExitDone)
     return code;
+  if (!_Deck.empty())
+    _Strangers = StrangersOf(deck, records, _Groups);
   const auto again = [this, &ioConsole](const auto& iWants, ResultRecords& oRecords)
   {
     ResultOptions wanted;
@@ -285,7 +289,21 @@ std::vector<GroupNodes> ResultsCommand::ChosenGroups(const LoadedResults& iResul
   }
   for (const GroupNodes& group : groups)
     _SomeFailed = _SomeFailed || !group.failure.empty();
+  TellStrangers(ioConsole);
   return groups;
+}
+
+//! A group that has none of its own in the file is as good as not there.
+void ResultsCommand::TellStrangers(Console& ioConsole)
+{
+  for (const GroupStrangers& group : _Strangers)
+  {
+    const char* const otherReason = group.ofNodes ? ", or no solid has these nodes" : "";
+    ioConsole.errors << Printable(fmt::format(
+        "voxbench results: {} of {} {} of group {} are not in {}: {} may not be the deck that was solved{}\n",
+        group.count, group.members, group.ofNodes ? "nodes" : "elements", group.name, _File, _Deck, otherReason));
+    _SomeFailed = _SomeFailed || group.count == group.members;
+  }
 }
 
 void ResultsCommand::ShowTables(const LoadedResults& iResults, const ResultTables& iTables,

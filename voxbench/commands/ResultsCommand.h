@@ -30,6 +30,7 @@ private:
                                          std::string& oFailure);
   void ShowTables(const LoadedResults& iResults, const ResultTables& iTables,
                   const std::vector<ResultDefinition>& iChosen, Console& ioConsole, ResultsReport& ioReport);
+  void TellStrangers(Console& ioConsole);
   void Complain(Console& ioConsole, const std::string& iSentence);
 
   std::string _File;
@@ -38,6 +39,7 @@ private:
   std::vector<std::string> _Versions;
   std::string _Position;
   std::vector<std::string> _Groups;
+  std::vector<GroupStrangers> _Strangers; //!< of these groups
   bool _ExtremesOnly = false;
   bool _Json = false;
   bool _Csv = false;

@@ -62,7 +62,8 @@ private:
         _Output.Write("," + Field(component));
     }
     else
-      _Output.Write(",component,minimum,node,x,y,z,maximum,node,x,y,z");
+      _Output.Write(",component,minimum,minimumNode,minimumX,minimumY,minimumZ"
+                    ",maximum,maximumNode,maximumX,maximumY,maximumZ");
     _Output.Write("\n");
   }
 

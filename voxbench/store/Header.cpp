@@ -86,6 +86,8 @@ void RefuseByHeader(const std::string& iFile)
   const Header header(iFile);
   if (!header.isOpen)
     throw StoreError(fmt::format("it cannot be opened: {}.", std::strerror(errno)));
+  if (std::filesystem::file_size(iFile, unknown) == 0)
+    throw StoreError("the file is empty: restore it from a backup, or import the deck again.");
   if (!header.IsDatabase())
     throw StoreError("it is no analysis document: its first bytes are other ones. voxbench import makes documents.");
   if (!header.IsWhole())
