@@ -116,8 +116,8 @@ void ExplicitModel::Kill(Record& ioRecord)
   }
   if (ioRecord.head.Kind() == ObjectKind::Record)
     for (VOXSamModelDataRoot* const parent : ioRecord.parents)
-      std::erase(RecordAt(*parent)->children, &ioRecord.head);
-  std::vector<VOXSamModelDataRoot*>().swap(ioRecord.children);
+      RecordAt(*parent)->children.Remove(&ioRecord.head);
+  ioRecord.children.Clear();
   ioRecord.applyTo = {};
 }
 

@@ -142,7 +142,7 @@ HRESULT VOXAnalysisExplicitChild::Delete()
   ExplicitModel* const model = VOXExplicitAccess::Model(*this);
   if (&record->head == model->GlobalFrame() || &record->head == model->MeshOwner())
     return E_FAIL;
-  const std::vector<VOXSamModelDataRoot*> children = record->children;
+  const voxhost::ObjectList children = record->children;
   model->Touch(*record);
   model->Kill(*record);
   for (VOXSamModelDataRoot* const object : children)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ExplicitModel/VOXSamTypes.h"
+#include "host/ExplicitModel/ObjectList.h"
 #include "host/ExplicitModel/SharedArray.h"
 
 #include <cstdint>
@@ -85,7 +86,7 @@ struct Record
   bool hasMesh = false; //!< nodes and elements of the model are its children, behind the others
   std::string name;
   std::vector<VOXSamModelDataRoot*> parents;
-  std::vector<VOXSamModelDataRoot*> children; //!< of a user list: its items
+  ObjectList children; //!< of a user list: its items
   ApplyTo applyTo;
   short featureKind = 0;
   unsigned int featureIdentifier = 0;

@@ -66,7 +66,7 @@ std::string TextOfObject(const voxhost::ExplicitModel& iModel, const voxhost::Re
                                  iRecord.physicalType, iRecord.name, iRecord.status, iRecord.hasMesh,
                                  iRecord.featureKind, iRecord.featureIdentifier, iRecord.featurePointer != nullptr,
                                  static_cast<int>(iRecord.applyTo.position), iModel.GlobalFrame() == &iRecord.head);
-  const auto addTags = [&](const char* iWhat, const std::vector<VOXSamModelDataRoot*>& iObjects)
+  const auto addTags = [&](const char* iWhat, const auto& iObjects)
   {
     text += iWhat;
     for (const VOXSamModelDataRoot* const object : iObjects)

@@ -165,7 +165,8 @@ private:
     ioRow.Insert();
   }
 
-  std::vector<std::int32_t> TagsOf(const std::vector<VOXSamModelDataRoot*>& iObjects) const
+  template <class Objects>
+  std::vector<std::int32_t> TagsOf(const Objects& iObjects) const
   {
     std::vector<std::int32_t> tags;
     tags.reserve(iObjects.size());
@@ -294,7 +295,7 @@ private:
     record.name = ioRow.Text();
     record.status = static_cast<int>(ioRow.Integer(INT32_MIN, INT32_MAX));
     record.parents = ObjectsOf(ioRow.Blob());
-    record.children = ObjectsOf(ioRow.Blob());
+    record.children = voxhost::ObjectList(ObjectsOf(ioRow.Blob()));
     const auto position = static_cast<VOXSamPosition>(ioRow.Integer(0, VOXSamPositionCenter));
     if (const std::int64_t number = ioRow.Integer(); number != 0)
     {

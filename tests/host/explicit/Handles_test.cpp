@@ -100,6 +100,36 @@ TEST_F(ExplicitHandles, TellStatusTypeAndCategory)
   EXPECT_EQ(category, VOXSamValueNode);
 }
 
+TEST_F(ExplicitHandles, ChildrenKeepTheirOrderWhateverGoesBetweenThem)
+{
+  std::vector<VOXAnalysisExplicitEntity> children;
+  std::vector<int> left = {Tag(group)};
+  const auto add = [&]
+  {
+    children.push_back(model->Create(groupSet, "GROUP", "More"));
+    left.push_back(Tag(children.back()));
+  };
+  const auto listed = [this]
+  {
+    VOXAnalysisExplicitList list;
+    EXPECT_EQ(groupSet.GetChildrenList(list), S_OK);
+    return Tags(list);
+  };
+  for (int count = 0; count < 9; ++count)
+    add();
+  for (const std::size_t place : {1u, 0u, 5u, 0u, 5u, 0u, 0u, 1u, 1u, 0u})
+  {
+    VOXAnalysisExplicitChild gone;
+    ASSERT_EQ(gone.LinkWithTag(left[place], model.get()), S_OK);
+    EXPECT_EQ(gone.Delete(), S_OK);
+    left.erase(left.begin() + static_cast<std::ptrdiff_t>(place));
+    EXPECT_EQ(listed(), left) << place;
+  }
+  EXPECT_TRUE(left.empty());
+  add();
+  EXPECT_EQ(listed(), left);
+}
+
 TEST_F(ExplicitHandles, DesignateNothingOnceTheirObjectIsDeleted)
 {
   const VOXAnalysisExplicitChild copy(group);
