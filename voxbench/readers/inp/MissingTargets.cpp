@@ -73,6 +73,7 @@ bool IsOfElements(const AppliedCard& iCard)
 {
   return !ActsOnNodes(iCard) || iCard.type == "STRESS" || iCard.type == "PLASTICSTRAIN" || iCard.type == "SOLUTION";
 }
+
 // Looks for the numbers of the model's cards among the nodes and elements of the deck.
 class Targets
 {
