@@ -19,8 +19,10 @@ std::string Text(const Triple& iTriple)
   std::string text;
   for (const double number : iTriple)
   {
-    std::string digits = fmt::format("{:.6g}", number);
-    text += (text.empty() ? "" : " ") + (digits == "-0" ? "0" : digits);
+    const std::string digits = fmt::format("{:.6g}", number);
+    if (!text.empty())
+      text += ' ';
+    text += digits == "-0" ? "0" : digits;
   }
   return text;
 }

@@ -59,7 +59,7 @@ private:
     {
       _Output.Write(",node,x,y,z");
       for (const std::string& component : iTable.components)
-        _Output.Write("," + Field(component));
+        _Output.Write(fmt::format(",{}", Field(component)));
     }
     else
       _Output.Write(",component,minimum,minimumNode,minimumX,minimumY,minimumZ"
@@ -73,9 +73,9 @@ private:
     {
       std::string line = fmt::format("{},{}", iStart, iGroup.nodes[row]);
       for (std::size_t axis = 0; axis < 3; ++axis)
-        line += "," + NumberText(iGroup.places[3 * row + axis]);
+        line.append(1, ',').append(NumberText(iGroup.places[3 * row + axis]));
       for (std::size_t component = 0; component < iComponents; ++component)
-        line += "," + NumberText(iGroup.numbers[row * iComponents + component]);
+        line.append(1, ',').append(NumberText(iGroup.numbers[row * iComponents + component]));
       _Output.Write(line + "\n");
     }
   }
