@@ -13,8 +13,8 @@ constexpr std::size_t kLongestLine = std::size_t{1} << 26;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 } // namespace
 
-//! A small file needs no more than its size, and a byte more to see its end: a deck may include a great many of them.
-std::size_t LineSource::FirstWindow() const
+// A small file needs no more than its size, and a byte more to see its end: a deck may include a great many of them.
+std::size_t LineSource::RoomAtATime() const
 {
   return IsCompressed() ? kWindow : static_cast<std::size_t>(std::min<std::uint64_t>(kWindow, BytesInAll() + 1));
 }
@@ -56,7 +56,7 @@ bool LineSource::Refill()
   std::size_t skipped = 0;
   do
   {
-    const std::size_t room = std::max(FirstWindow(), _Filled); // a line longer than the window doubles it
+    const std::size_t room = std::max(RoomAtATime(), _Filled); // a line longer than the window doubles it
     if (_Filled > kLongestLine)
     {
       _TooLong = "a line of more than 64 MiB";

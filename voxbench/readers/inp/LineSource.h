@@ -53,7 +53,7 @@ public:
   std::uint64_t TextAhead() const;
 
 private:
-  std::size_t FirstWindow() const;
+  std::size_t RoomAtATime() const;
   void Fill(std::size_t iRoom);
 
   PackedFile _File;
